@@ -1,0 +1,28 @@
+#include "testmain.h"
+
+#include <QApplication>
+#include <QTest>
+
+#include <memory>
+
+namespace heft::test {
+std::vector<Factory>& Registry()
+{
+    static std::vector<Factory> factories;
+    return factories;
+}
+} // namespace heft::test
+
+// Runs every registered class; the arguments (e.g. a test function's name)
+// go to each of them, so "-functions" lists all.
+int main(int argc, char** argv)
+{
+    QApplication app(argc, argv);
+    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+    int failures = 0;
+    for (const auto& factory : heft::test::Registry()) {
+        std::unique_ptr<QObject> testObject(factory());
+        failures += QTest::qExec(testObject.get(), argc, argv);
+    }
+    return failures == 0 ? 0 : 1;
+}
