@@ -1,0 +1,39 @@
+#pragma once
+// Real collection files in temporary folders, built by the same code that
+// builds the shipped files, and a session wired to a scripted prompter.
+
+#include "core/prompter.h"
+#include "core/session.h"
+
+#include <QTemporaryDir>
+
+namespace heft::test {
+
+struct TestEntry {
+    int nr;
+    QString autor;
+    QString titel;
+    int auflage = 0;
+    QString zyklus = QStringLiteral("- - -");
+    bool gelesen = false;
+    QString bemerkung;
+};
+
+class TempCollection {
+public:
+    // A new file "Test.mdb" in a fresh temporary folder, opened in session.
+    explicit TempCollection(const QString& series = QStringLiteral("Valdorin"),
+                            const QString& kind = QStringLiteral("Heftromane"));
+    QString Path() const { return dir.filePath(QStringLiteral("Test.mdb")); }
+    // Inserts entries with plain SQL (not through the editor's writers).
+    void Add(const QList<TestEntry>& entries);
+    // Runs SQL that must succeed (test set-up).
+    void Exec(const QString& sql);
+    QVariant Value(const QString& sql);
+
+    QTemporaryDir dir;
+    ScriptedPrompter prompter;
+    Session session;
+};
+
+} // namespace heft::test
