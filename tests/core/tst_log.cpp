@@ -1,0 +1,129 @@
+#include "testmain.h"
+
+#include "core/log.h"
+#include "core/placement.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace heft;
+
+namespace {
+
+QByteArray ReadAll(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+} // namespace
+
+class TestLog : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void entry_data()
+    {
+        QTest::addColumn<int>("code");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QByteArray>("expected");
+        QTest::newRow("info") << 0 << u"Programmdaten in /home/ä"_s
+                              << "[Info]\r\nProgrammdaten in /home/\xc3\xa4\r\n"_ba;
+        QTest::newRow("config") << 10 << u"FB=1\r\nFH=2"_s << "\r\n[Konfig]\r\nFB=1\r\nFH=2\r\n"_ba;
+        QTest::newRow("error shows the last SQL")
+            << 3022 << u"Doppelter Eintrag"_s
+            << "DELETE FROM HEFTLIST;\r\n[Fehler 3022]\r\nDoppelter Eintrag\r\n"_ba;
+        QTest::newRow("line breaks become CR LF")
+            << -1 << u"Beschreibung\nSELECT 1;\rEnde"_s
+            << "DELETE FROM HEFTLIST;\r\n[Fehler -1]\r\nBeschreibung\r\nSELECT 1;\r\nEnde\r\n"_ba;
+    }
+    void entry()
+    {
+        QFETCH(int, code);
+        QFETCH(QString, text);
+        QFETCH(QByteArray, expected);
+        QTemporaryDir dir;
+        const Log log(dir.filePath(u"Heftarium.log"_s));
+        log.Write(code, text, u"DELETE FROM HEFTLIST;"_s);
+        QCOMPARE(ReadAll(log.Path()), expected);
+    }
+
+    void appendsAndIgnoresFailures()
+    {
+        QTemporaryDir dir;
+        const Log log(dir.filePath(u"Heftarium.log"_s));
+        log.Write(LogInfo, u"eins"_s, QString());
+        log.Write(LogInfo, u"zwei"_s, QString());
+        QCOMPARE(ReadAll(log.Path()), "[Info]\r\neins\r\n[Info]\r\nzwei\r\n"_ba);
+
+        const Log nowhere(dir.filePath(u"fehlt/Heftarium.log"_s));
+        nowhere.Write(LogInfo, u"verloren"_s, QString());
+        QVERIFY(!QFile::exists(nowhere.Path()));
+        Log().Write(LogInfo, u"verloren"_s, QString());
+    }
+
+    // The placement written at exit is read back on the next start. The
+    // screen is 20000 x 15000 twips; the default is 9000 x 6000 at 100/200.
+    void placement_data()
+    {
+        QTest::addColumn<QByteArray>("log");
+        QTest::addColumn<QList<int>>("expected");
+        const QList<int> unchanged = {9000, 6000, 100, 200};
+        QTest::newRow("all taken") << "[Konfig]\r\nFB=12000\r\nFH=8000\r\nFX=300\r\nFY=400\r\n"_ba
+                                   << QList<int>{12000, 8000, 300, 400};
+        QTest::newRow("no config entry") << "[Info]\r\nFB=12000\r\nFX=300\r\n"_ba << unchanged;
+        QTest::newRow("too narrow") << "[Konfig]\r\nFB=8999\r\n"_ba << unchanged;
+        QTest::newRow("wider than the screen") << "[Konfig]\r\nFB=20001\r\n"_ba << unchanged;
+        QTest::newRow("height below 2500") << "[Konfig]\r\nFH=2499\r\n"_ba << unchanged;
+        QTest::newRow("height 2500, below default") << "[Konfig]\r\nFH=2500\r\n"_ba
+                                                    << QList<int>{9000, 2500, 100, 200};
+        QTest::newRow("left and top 0") << "[Konfig]\r\nFX=0\r\nFY=0\r\n"_ba << unchanged;
+        QTest::newRow("left keeps the new width on screen")
+            << "[Konfig]\r\nFB=15000\r\nFX=5001\r\nFY=9000\r\n"_ba << QList<int>{15000, 6000, 100, 9000};
+        QTest::newRow("top keeps the new height on screen")
+            << "[Konfig]\r\nFH=10000\r\nFY=5001\r\n"_ba << QList<int>{9000, 10000, 100, 200};
+        QTest::newRow("lines before the entry are ignored")
+            << "FB=12000\r\n[Info]\r\nstart\r\n\r\n[Konfig]\r\nFY=700\r\n"_ba << QList<int>{9000, 6000, 100, 700};
+        QTest::newRow("LF only and trailing text") << "[Konfig]\nFB=9500 twips\nFX=50\n"_ba
+                                                   << QList<int>{9500, 6000, 50, 200};
+    }
+    void placement()
+    {
+        QFETCH(QByteArray, log);
+        QFETCH(QList<int>, expected);
+        QTemporaryDir dir;
+        const QString path = dir.filePath(u"Heftarium.old"_s);
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(log);
+        file.close();
+
+        WindowPlacement placement{9000, 6000, 100, 200};
+        ReadPlacementFromLog(path, 20000, 15000, placement);
+        QCOMPARE((QList<int>{placement.width, placement.height, placement.left, placement.top}), expected);
+    }
+
+    void placementRoundTrip()
+    {
+        QTemporaryDir dir;
+        const Log log(dir.filePath(u"Heftarium.log"_s));
+        log.Write(LogInfo, u"Start"_s, QString());
+        log.Write(LogConfig, PlacementLogText({11520, 7200, 1440, 720}), QString());
+        QVERIFY(ReadAll(log.Path()).endsWith("Start\r\n\r\n[Konfig]\r\nFB=11520\r\nFH=7200\r\nFX=1440\r\nFY=720\r\n"));
+
+        WindowPlacement placement{9000, 6000, 100, 200};
+        ReadPlacementFromLog(log.Path(), 20000, 15000, placement);
+        QCOMPARE(placement.width, 11520);
+        QCOMPARE(placement.height, 7200);
+        QCOMPARE(placement.left, 1440);
+        QCOMPARE(placement.top, 720);
+
+        ReadPlacementFromLog(dir.filePath(u"fehlt.old"_s), 20000, 15000, placement);
+        QCOMPARE(placement.width, 11520);
+    }
+};
+
+HEFT_TEST(TestLog)
+#include "tst_log.moc"

@@ -1,0 +1,91 @@
+#include "testmain.h"
+
+#include "core/roman.h"
+
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace heft;
+
+class TestRoman : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void romanToNumber_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<int>("expected");
+        QTest::newRow("empty") << QString() << 0;
+        QTest::newRow("year") << u"MCMXC"_s << 1990;
+        QTest::newRow("lower case") << u"mmxxiv"_s << 2024;
+        QTest::newRow("subtractive") << u"XLIV"_s << 44;
+        QTest::newRow("stops at a non-digit") << u"XIIabc"_s << 12;
+        QTest::newRow("previous stays after subtracting") << u"IXC"_s << 107;
+        QTest::newRow("no digit at all") << u"- - -"_s << 0;
+    }
+    void romanToNumber()
+    {
+        QFETCH(QString, text);
+        QFETCH(int, expected);
+        QCOMPARE(RomanToNumber(text), expected);
+    }
+
+    void numberToRoman_data()
+    {
+        QTest::addColumn<int>("number");
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("zero") << 0 << QString();
+        QTest::newRow("year") << 1990 << u"MCMXC"_s;
+        QTest::newRow("all steps") << 3999 << u"MMMCMXCIX"_s;
+        QTest::newRow("beyond 3999") << 4001 << u"MMMMI"_s;
+    }
+    void numberToRoman()
+    {
+        QFETCH(int, number);
+        QFETCH(QString, expected);
+        QCOMPARE(NumberToRoman(number), expected);
+        QCOMPARE(number, 0);
+    }
+
+    // Every cycle number the series could reach survives writing and reading.
+    void roundTrip()
+    {
+        for (int n = 1; n <= 3999; ++n)
+            QCOMPARE(RomanToNumber(NumberToRoman(int(n))), n);
+    }
+
+    void digits_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<bool>("digit");
+        QTest::addColumn<bool>("romanText");
+        QTest::addColumn<QString>("value");
+        QTest::newRow("empty") << QString() << false << true << QString();
+        QTest::newRow("upper") << u"D"_s << true << true << u"500"_s;
+        QTest::newRow("lower") << u"x"_s << true << true << u"10"_s;
+        QTest::newRow("two digits") << u"XI"_s << false << true << QString();
+        QTest::newRow("not roman") << u"A"_s << false << false << QString();
+        QTest::newRow("no cycle") << u"- - -"_s << false << false << QString();
+    }
+    void digits()
+    {
+        QFETCH(QString, text);
+        QFETCH(bool, digit);
+        QFETCH(bool, romanText);
+        QFETCH(QString, value);
+        QCOMPARE(IsRomanDigit(text), digit);
+        QCOMPARE(IsRomanText(text), romanText);
+        QCOMPARE(RomanDigitValue(text), value);
+    }
+
+    void keys()
+    {
+        for (const char c : "CDILMVXcdilmvx"_ba)
+            QVERIFY2(IsRomanKey(c), QByteArray(1, c).constData());
+        for (const int key : std::initializer_list<int>{0, 'A', 'Z', 'a', ' ', '0', 'C' + 0x10000})
+            QVERIFY(!IsRomanKey(key));
+    }
+};
+
+HEFT_TEST(TestRoman)
+#include "tst_roman.moc"
