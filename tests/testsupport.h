@@ -10,13 +10,19 @@
 namespace heft::test {
 
 struct TestEntry {
+    TestEntry(int nr_, QString autor_, QString titel_, int auflage_ = 0,
+              QString zyklus_ = QStringLiteral("- - -"), bool gelesen_ = false, QString bemerkung_ = {})
+        : nr(nr_), autor(std::move(autor_)), titel(std::move(titel_)), auflage(auflage_),
+          zyklus(std::move(zyklus_)), gelesen(gelesen_), bemerkung(std::move(bemerkung_))
+    {
+    }
     int nr;
     QString autor;
     QString titel;
-    int auflage = 0;
-    QString zyklus = QStringLiteral("- - -");
-    bool gelesen = false;
-    QString bemerkung;
+    int auflage;
+    QString zyklus;
+    bool gelesen;
+    QString bemerkung; // a null string is stored as NULL
 };
 
 class TempCollection {

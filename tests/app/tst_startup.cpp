@@ -1,0 +1,192 @@
+// The start of a run on real folders: first start per user, later starts,
+// the command-line name, and the failures that end or don't end the program.
+
+#include "testmain.h"
+
+#include "app/datafolder.h"
+#include "app/startup.h"
+#include "core/schema.h"
+
+#include <QDirIterator>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace heft;
+
+namespace {
+
+// An all-users folder with the seven shipped files, made by the same code
+// that makes the real ones.
+void MakeAllUsersFolder(const QString& root)
+{
+    QDir().mkpath(root + u"/DBs"_s);
+    QDir().mkpath(root + u"/bm"_s);
+    DbError error;
+    for (const char16_t* file : {u"Heftarium.mdb", u"VN-HR.mdb", u"VN-TB.mdb"}) {
+        auto db = CreateCollectionFile(root + u"/DBs/"_s + QStringView(file), u"Valdorin"_s,
+                                       QStringView(file) == u"VN-TB.mdb" ? u"Taschenbücher"_s : u"Heftromane"_s,
+                                       &error);
+        QVERIFY(db);
+        db->Execute(u"INSERT INTO HEFTLIST VALUES (1, 'A', '%1', 0, 'I', 0, '');"_s.arg(QStringView(file)));
+    }
+    QVERIFY(CreateCycleFile(root + u"/DBs/Valdorin Zyklus.mdb"_s, &error));
+    for (const char16_t* file : {u"bm/Logo.svg", u"bm/Splash.svg", u"DBs/Heftarium.marker"}) {
+        QFile f(root + u'/' + QStringView(file));
+        QVERIFY(f.open(QIODevice::WriteOnly));
+        f.write("x");
+    }
+}
+
+QStringList ReadLog(const QString& path)
+{
+    QFile f(path);
+    if (!f.open(QIODevice::ReadOnly))
+        return {};
+    return QString::fromUtf8(f.readAll()).split(u"\r\n"_s);
+}
+
+} // namespace
+
+class TestStartup : public QObject {
+    Q_OBJECT
+
+    QTemporaryDir m_root;
+    QString m_allUsers;
+    QString m_user;
+    QString m_app;
+
+    bool Start(Session& session, ScriptedPrompter& prompter, const QString& commandLine = {})
+    {
+        session.prompter = &prompter;
+        return StartSession(session, {m_user, m_allUsers + u'/', m_app, commandLine});
+    }
+
+    QString Data() const { return m_user + u"/Quintara/Heftarium"_s; }
+
+private Q_SLOTS:
+    void init()
+    {
+        m_allUsers = m_root.filePath(u"share/Quintara/Heftarium"_s);
+        m_user = m_root.filePath(u"home-%1"_s.arg(QLatin1String(QTest::currentTestFunction())));
+        m_app = m_root.filePath(u"app"_s);
+        QDir().mkpath(m_user);
+        QDir().mkpath(m_app);
+        if (!QFileInfo::exists(m_allUsers))
+            MakeAllUsersFolder(m_allUsers);
+    }
+
+    void firstStartCopiesEverything()
+    {
+        Session session;
+        ScriptedPrompter prompter;
+        QVERIFY(Start(session, prompter));
+        QCOMPARE(session.DataFolder, Data());
+        int folders = 0;
+        for (QDirIterator it(m_user, QDir::Dirs | QDir::NoDotAndDotDot,
+                             QDirIterator::Subdirectories);
+             it.hasNext(); it.next())
+            ++folders;
+        QCOMPARE(folders, 16);
+        for (const QString& file : ShippedFiles())
+            QVERIFY2(QFileInfo(Data() + u'/' + file).size() > 0, qPrintable(file));
+        const QStringList log = ReadLog(Data() + u"/Heftarium.log"_s);
+        QCOMPARE(log.value(0), u"[Info]"_s);
+        QVERIFY(log.value(1).startsWith(u"V1.0.0, "_s));
+        QCOMPARE(log.value(3), u"Programmdaten in "_s + Data());
+        QVERIFY(session.CycleDb != nullptr);
+        QCOMPARE(session.Config.SeriesName, u"Valdorin"_s);
+        QVERIFY(session.SharedRecordset.Next());
+        QVERIFY(prompter.asked.isEmpty());
+    }
+
+    void laterStartCopiesNothing()
+    {
+        {
+            Session session;
+            ScriptedPrompter prompter;
+            QVERIFY(Start(session, prompter));
+        }
+        QVERIFY(QFile::remove(Data() + u"/DBs/Heftarium.mdb"_s));
+        Session session;
+        ScriptedPrompter prompter;
+        QVERIFY(!Start(session, prompter));
+        QCOMPARE(prompter.asked.size(), 1);
+        QCOMPARE(prompter.asked[0].title, u"Probleme beim Öffnen der DB"_s);
+        QCOMPARE(prompter.asked[0].text, u"Die Heftarium Tabelle\n\n'%1/DBs/Heftarium.mdb'\n\nkonnte nicht "
+                                         "geöffnet werden!"_s.arg(Data()));
+        QCOMPARE(prompter.asked[0].icon, MessageIcon::Critical);
+        // The previous run's log was rotated; this run logged the failure.
+        QVERIFY(QFileInfo::exists(Data() + u"/Heftarium.old"_s));
+        QVERIFY(ReadLog(Data() + u"/Heftarium.log"_s).join(u'|').contains(u"[Fehler 3024]|Fehler beim Öffnen der "_s));
+    }
+
+    void deletedMarkerRestoresShippedFiles()
+    {
+        {
+            Session session;
+            ScriptedPrompter prompter;
+            QVERIFY(Start(session, prompter));
+            session.CollectionDb->Execute(u"DELETE FROM HEFTLIST;"_s);
+        }
+        QVERIFY(QFile::remove(Data() + u'/' + MarkerFile()));
+        Session session;
+        ScriptedPrompter prompter;
+        QVERIFY(Start(session, prompter));
+        QCOMPARE(session.CollectionDb->SelectValue(u"SELECT COUNT(*) FROM HEFTLIST;"_s).toInt(), 1);
+    }
+
+    void commandLineNames()
+    {
+        Session session;
+        ScriptedPrompter prompter;
+        QVERIFY(Start(session, prompter, u"  VN-TB.mdb "_s));
+        QCOMPARE(session.Config.ListKind, u"Taschenbücher"_s);
+        session = Session();
+
+        // A full path outside DBs opens after the first try failed.
+        DbError error;
+        const QString elsewhere = m_root.filePath(u"Anderswo.mdb"_s);
+        QVERIFY(CreateCollectionFile(elsewhere, u"Andere Serie"_s, u"Hefte"_s, &error));
+        Session second;
+        ScriptedPrompter prompter2;
+        QVERIFY(Start(second, prompter2, elsewhere));
+        QCOMPARE(second.Config.SeriesName, u"Andere Serie"_s);
+        // Its cycle file does not exist: logged, and the program goes on.
+        QVERIFY(!second.CycleDb);
+        QVERIFY(ReadLog(Data() + u"/Heftarium.log"_s).join(u'|').contains(u"Fehler beim Öffnen der Zyklus DB: "_s));
+        QVERIFY(prompter2.asked.isEmpty());
+
+        Session third;
+        ScriptedPrompter prompter3;
+        QVERIFY(!Start(third, prompter3, u"Gibtsnicht.mdb"_s));
+        QVERIFY(prompter3.asked.value(0).text.contains(u"'Gibtsnicht.mdb'"_s));
+    }
+
+    void missingConfigurationEndsTheProgram()
+    {
+        DbError error;
+        const QString path = m_root.filePath(u"OhneKonfig.mdb"_s);
+        auto db = CreateCollectionFile(path, u"X"_s, u"Y"_s, &error);
+        QVERIFY(db);
+        db->Execute(u"DROP TABLE KONFIGURATION;"_s);
+        db.reset();
+        Session session;
+        ScriptedPrompter prompter;
+        QVERIFY(!Start(session, prompter, path));
+        QVERIFY(prompter.asked.value(0).text.contains(u"'Konfigurations'"_s));
+    }
+
+    void withoutAllUsersFilesTheProgramFolderServes()
+    {
+        Session session;
+        ScriptedPrompter prompter;
+        session.prompter = &prompter;
+        MakeAllUsersFolder(m_app);
+        QVERIFY(StartSession(session, {m_user, m_root.filePath(u"nirgends/"_s), m_app, {}}));
+        QCOMPARE(session.DataFolder, m_app);
+    }
+};
+
+HEFT_TEST(TestStartup)
+#include "tst_startup.moc"

@@ -1,0 +1,282 @@
+// The storage engine must answer as the program's SQL texts expect: Jet's
+// wildcards, XOR, dates, case-blind German text order, yes/no values, error
+// numbers, one statement per call, exclusive use.
+
+#include "testmain.h"
+#include "testsupport.h"
+
+#include "core/jetdialect.h"
+#include "core/jetfunctions.h"
+
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace heft;
+using namespace heft::test;
+
+class TestDatabase : public QObject {
+    Q_OBJECT
+
+    static QStringList Column(Database& db, const QString& sql)
+    {
+        DbError error;
+        Query query = db.Select(sql, &error);
+        if (error)
+            qFatal("%s", qPrintable(error.description));
+        QStringList values;
+        while (query.Next())
+            values << (query.IsNull(0) ? u"<NULL>"_s : query.Text(0));
+        return values;
+    }
+
+private Q_SLOTS:
+    void jetLike_data()
+    {
+        QTest::addColumn<QString>("pattern");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<bool>("matches");
+        QTest::newRow("star inside") << u"*Sonne*"_s << u"Die sonnenstadt"_s << true;
+        QTest::newRow("case-blind umlaut") << u"*ÄRGER*"_s << u"Großer Ärger"_s << true;
+        QTest::newRow("question one char") << u"T?tel"_s << u"Titel"_s << true;
+        QTest::newRow("question needs a char") << u"Titel?"_s << u"Titel"_s << false;
+        QTest::newRow("hash digit") << u"Band ##"_s << u"Band 42"_s << true;
+        QTest::newRow("hash no letter") << u"Band ##"_s << u"Band 4a"_s << false;
+        QTest::newRow("list") << u"[KM]*"_s << u"Mira"_s << true;
+        QTest::newRow("range") << u"[a-c]x"_s << u"Bx"_s << true;
+        QTest::newRow("negated list") << u"[!a-c]x"_s << u"dx"_s << true;
+        QTest::newRow("negated list refuses") << u"[!a-c]x"_s << u"bx"_s << false;
+        QTest::newRow("percent is plain") << u"50%"_s << u"50 Prozent"_s << false;
+        QTest::newRow("percent literal") << u"50%"_s << u"50%"_s << true;
+        QTest::newRow("underscore is plain") << u"a_c"_s << u"abc"_s << false;
+        QTest::newRow("literal star in brackets") << u"a[*]c"_s << u"a*c"_s << true;
+        QTest::newRow("stamp with star") << u"2009-03-01*"_s << u"2009-03-01 um 12:00:00"_s << true;
+        QTest::newRow("backtracking") << u"*a*b*c"_s << u"xaxbxbxc"_s << true;
+        QTest::newRow("whole text") << u"abc"_s << u"abcd"_s << false;
+    }
+    void jetLike()
+    {
+        QFETCH(QString, pattern);
+        QFETCH(QString, text);
+        QFETCH(bool, matches);
+        QCOMPARE(JetLike(pattern, text), matches);
+    }
+
+    void likeInStatements()
+    {
+        TempCollection c;
+        c.Add({{1, u"Kurt Brandis"_s, u"Die Sonnenstadt"_s}, {2, u"Hanno Velden"_s, u"Schatten 100%"_s},
+               {3, u"kurt brandis"_s, u"Das Tor"_s}});
+        Database& db = *c.session.CollectionDb;
+        QCOMPARE(Column(db, u"SELECT Nr FROM HEFTLIST WHERE Titel LIKE '*sonne*';"_s), QStringList{u"1"_s});
+        QCOMPARE(Column(db, u"SELECT Nr FROM HEFTLIST WHERE Titel LIKE '*100%';"_s), QStringList{u"2"_s});
+        QCOMPARE(Column(db, u"SELECT Nr FROM HEFTLIST WHERE Titel LIKE '%';"_s), QStringList());
+        QCOMPARE(Column(db, u"SELECT Nr FROM HEFTLIST WHERE Autor NOT LIKE 'KURT*' ORDER BY Nr;"_s),
+                 QStringList{u"2"_s});
+    }
+
+    // Jet binds NOT, AND, OR, then XOR; a NULL operand makes XOR NULL.
+    void xorPrecedenceAndNull_data()
+    {
+        QTest::addColumn<QString>("where");
+        QTest::addColumn<QStringList>("found");
+        QTest::newRow("plain") << u"Nr=1 XOR Nr=2"_s << QStringList{u"1"_s, u"2"_s};
+        QTest::newRow("both true is false") << u"Nr<3 XOR Nr>1"_s << QStringList{u"1"_s, u"3"_s, u"4"_s};
+        // (Nr=1 AND Autor='A') XOR (Nr=2 OR Nr=3): row 1 only left, 2 and 3 right.
+        QTest::newRow("and or") << u"Nr=1 AND Autor='A' XOR Nr=2 OR Nr=3"_s
+                                << QStringList{u"1"_s, u"2"_s, u"3"_s};
+        // (Nr>=1) XOR (Nr=2 OR Nr=3) leaves 1 and 4.
+        QTest::newRow("or binds tighter") << u"Nr>=1 XOR Nr=2 OR Nr=3"_s << QStringList{u"1"_s, u"4"_s};
+        // Bemerkung is NULL on rows 3 and 4: the comparison is NULL, so is XOR.
+        QTest::newRow("null operand") << u"Bemerkung='x' XOR Nr>0"_s << QStringList{u"2"_s};
+        QTest::newRow("three in a row") << u"Nr=1 XOR Nr=1 XOR Nr=2"_s << QStringList{u"2"_s};
+        QTest::newRow("inside brackets") << u"(Nr=1 XOR Nr=2) AND Autor='A'"_s << QStringList{u"1"_s};
+        QTest::newRow("string with xor word") << u"Titel='a XOR b' XOR Nr=4"_s
+                                              << QStringList{u"3"_s, u"4"_s};
+    }
+    void xorPrecedenceAndNull()
+    {
+        QFETCH(QString, where);
+        QFETCH(QStringList, found);
+        TempCollection c;
+        c.Add({{1, u"A"_s, u"t"_s, 0, u"- - -"_s, false, u"x"_s},
+               {2, u"B"_s, u"t"_s, 0, u"- - -"_s, false, u"y"_s},
+               {3, u"A"_s, u"a XOR b"_s},
+               {4, u"B"_s, u"t"_s}});
+        QCOMPARE(Column(*c.session.CollectionDb, u"SELECT Nr FROM HEFTLIST WHERE "_s + where + u" ORDER BY Nr;"_s),
+                 found);
+    }
+
+    void dateValueAgainstTextColumn()
+    {
+        TempCollection c;
+        c.Add({{1, u"A"_s, u"a"_s}, {2, u"A"_s, u"b"_s}, {3, u"A"_s, u"c"_s}, {4, u"A"_s, u"d"_s}});
+        // First appearances arrive in several text forms.
+        c.Exec(u"INSERT INTO Details (Nr, Ersterscheinung) VALUES (1, '1962-03-09');"_s);
+        c.Exec(u"INSERT INTO Details (Nr, Ersterscheinung) VALUES (2, '15.06.1975');"_s);
+        c.Exec(u"INSERT INTO Details (Nr, Ersterscheinung) VALUES (3, '2006-Oktober-05');"_s);
+        c.Exec(u"INSERT INTO Details (Nr, Ersterscheinung) VALUES (4, '31.12.1900');"_s);
+        Database& db = *c.session.CollectionDb;
+        QCOMPARE(Column(db, u"SELECT d.Nr FROM Details d WHERE d.Ersterscheinung > DateValue('01.01.1970') "
+                             "ORDER BY d.Nr;"_s),
+                 (QStringList{u"2"_s, u"3"_s}));
+        QCOMPARE(Column(db, u"SELECT Nr FROM Details WHERE Ersterscheinung=DateValue('09.03.1962');"_s),
+                 QStringList{u"1"_s});
+        QCOMPARE(Column(db, u"SELECT Nr FROM Details WHERE Ersterscheinung<DateValue('1.1.70') ORDER BY Nr;"_s),
+                 (QStringList{u"1"_s, u"4"_s}));
+    }
+
+    void jetDateValue_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<qint64>("days");
+        QTest::newRow("german") << u"01.01.1900"_s << qint64(2);
+        QTest::newRow("iso") << u"1900-01-01"_s << qint64(2);
+        QTest::newRow("stamp") << u"1900-01-01 um 10:00:00"_s << qint64(2);
+        QTest::newRow("two digits 20th") << u"01.01.70"_s << QDate(1899, 12, 30).daysTo(QDate(1970, 1, 1));
+        QTest::newRow("two digits 21st") << u"01.01.29"_s << QDate(1899, 12, 30).daysTo(QDate(2029, 1, 1));
+        QTest::newRow("month name") << u"2006-Oktober-05"_s << QDate(1899, 12, 30).daysTo(QDate(2006, 10, 5));
+        QTest::newRow("märz") << u"2006-März-05"_s << QDate(1899, 12, 30).daysTo(QDate(2006, 3, 5));
+        QTest::newRow("no date") << u"demnächst"_s << qint64(-1);
+        QTest::newRow("31 february") << u"31.02.2001"_s << qint64(-1);
+    }
+    void jetDateValue()
+    {
+        QFETCH(QString, text);
+        QFETCH(qint64, days);
+        QCOMPARE(JetDateValue(text).value_or(-1), days);
+    }
+
+    void germanCaseBlindOrder()
+    {
+        TempCollection c;
+        c.Add({{1, u"Zander"_s, u"t"_s}, {2, u"ärger"_s, u"t"_s}, {3, u"Ahorn"_s, u"t"_s},
+               {4, u"AHORN"_s, u"t"_s}, {5, u"Baum"_s, u"t"_s}, {6, u"Öde"_s, u"t"_s}, {7, u"ode"_s, u"t"_s}});
+        Database& db = *c.session.CollectionDb;
+        QCOMPARE(Column(db, u"SELECT DISTINCT Autor FROM HEFTLIST ORDER BY Autor;"_s).size(), 6);
+        QCOMPARE(Column(db, u"SELECT Nr FROM HEFTLIST WHERE Autor='ahorn' ORDER BY Nr;"_s),
+                 (QStringList{u"3"_s, u"4"_s}));
+        QCOMPARE(Column(db, u"SELECT Nr FROM HEFTLIST WHERE Autor='ÄRGER';"_s), QStringList{u"2"_s});
+        QCOMPARE(Column(db, u"SELECT Nr FROM HEFTLIST WHERE Autor='arger';"_s), QStringList());
+        const QStringList ordered = Column(db, u"SELECT Autor FROM HEFTLIST WHERE Nr<>4 ORDER BY Autor, Nr;"_s);
+        QCOMPARE(ordered, (QStringList{u"Ahorn"_s, u"ärger"_s, u"Baum"_s, u"ode"_s, u"Öde"_s, u"Zander"_s}));
+    }
+
+    void paddedNumbersStillSortAsNumbers()
+    {
+        TempCollection c;
+        for (const char16_t* value : {u"0000120", u"0012050", u"0000005", u"0000020", u"", u"0012.50"})
+            c.Exec(u"INSERT INTO Status (Nr, ENum, StatusWert) VALUES (1, 5, '%1');"_s.arg(QStringView(value)));
+        Database& db = *c.session.CollectionDb;
+        QCOMPARE(Column(db, u"SELECT StatusWert FROM Status ORDER BY StatusWert;"_s),
+                 (QStringList{u""_s, u"0000005"_s, u"0000020"_s, u"0000120"_s, u"0012.50"_s, u"0012050"_s}));
+        QCOMPARE(Column(db, u"SELECT StatusWert FROM Status WHERE StatusWert>'0000020' AND StatusWert<'0001000';"_s),
+                 QStringList{u"0000120"_s});
+    }
+
+    void yesNoColumnsReadMinusOne()
+    {
+        TempCollection c;
+        c.Exec(u"INSERT INTO HEFTLIST (Nr, Autor, Titel, Auflage, Zyklus, GL, Bemerkung) "
+               "VALUES (1, 'A', 'T', 0, 'I', 255, '');"_s);
+        c.Exec(u"INSERT INTO HEFTLIST (Nr, Autor, Titel, Auflage, Zyklus, GL, Bemerkung) "
+               "VALUES (2, 'A', 'T', 0, 'I', 0, '');"_s);
+        c.Exec(u"INSERT INTO Gestaltung (Nr, RZ) VALUES (1, 255);"_s);
+        c.Exec(u"INSERT INTO Gestaltung (Nr) VALUES (2);"_s);
+        QCOMPARE(c.Value(u"SELECT GL FROM HEFTLIST WHERE Nr=1;"_s).toInt(), -1);
+        QCOMPARE(c.Value(u"SELECT Nr FROM HEFTLIST WHERE GL=-1;"_s).toInt(), 1);
+        QCOMPARE(c.Value(u"SELECT COUNT(*) FROM HEFTLIST WHERE GL<>0;"_s).toInt(), 1);
+        QCOMPARE(c.Value(u"SELECT Nr FROM Gestaltung WHERE RZ=-1;"_s).toInt(), 1);
+        QCOMPARE(c.Value(u"SELECT RZ FROM Gestaltung WHERE Nr=2;"_s).toInt(), 0);
+        c.Exec(u"UPDATE HEFTLIST SET GL=255 WHERE Nr=2;"_s);
+        QCOMPARE(c.Value(u"SELECT COUNT(*) FROM HEFTLIST WHERE GL=-1;"_s).toInt(), 2);
+    }
+
+    void errorNumbers_data()
+    {
+        QTest::addColumn<QString>("sql");
+        QTest::addColumn<int>("number");
+        QTest::addColumn<QString>("description");
+        QTest::newRow("duplicate") << u"INSERT INTO HEFTLIST VALUES (1, 'B', 'U', 0, 'I', 0, '');"_s << 3022
+                                   << u"The changes you requested to the table were not successful*"_s;
+        QTest::newRow("empty author") << u"UPDATE HEFTLIST SET Autor='' WHERE Nr=1;"_s << 3315
+                                      << u"Field 'HEFTLIST.Autor' cannot be a zero-length string."_s;
+        QTest::newRow("empty title") << u"INSERT INTO HEFTLIST VALUES (2, 'B', '', 0, 'I', 0, '');"_s << 3315
+                                     << u"Field 'HEFTLIST.Titel' cannot be a zero-length string."_s;
+        QTest::newRow("too long") << u"INSERT INTO Status VALUES (1, 3, '%1');"_s.arg(QString(129, u'x')) << 3163
+                                  << u"The field is too small to accept the amount of data you attempted to add.*"_s;
+        QTest::newRow("text after end") << u"DELETE FROM HEFTLIST WHERE Nr=1; DELETE FROM Status;"_s << 3142
+                                        << u"Characters found after end of SQL statement."_s;
+        QTest::newRow("syntax") << u"SELECT FROM WHERE;"_s << 3075 << u"Syntax error (missing operator)*"_s;
+        QTest::newRow("update syntax") << u"UPDATE HEFTLIST SET WHERE Nr=1;"_s << 3144
+                                       << u"Syntax error in UPDATE statement."_s;
+        QTest::newRow("byte overflow") << u"UPDATE HEFTLIST SET Auflage=256 WHERE Nr=1;"_s << 3349
+                                       << u"Numeric field overflow."_s;
+        QTest::newRow("table exists") << u"CREATE TABLE Status (Nr LONG);"_s << 3010
+                                      << u"Table 'Status' already exists."_s;
+        QTest::newRow("no table") << u"SELECT * FROM Fehlt;"_s << 3078 << u"*'Fehlt'*"_s;
+    }
+    void errorNumbers()
+    {
+        QFETCH(QString, sql);
+        QFETCH(int, number);
+        QFETCH(QString, description);
+        TempCollection c;
+        c.Add({{1, u"A"_s, u"T"_s}});
+        c.Exec(u"INSERT INTO Status VALUES (1, 2, '0000001');"_s);
+        const DbError error = c.session.CollectionDb->Execute(sql);
+        QCOMPARE(error.number, number);
+        QVERIFY2(JetLike(description, error.description), qPrintable(error.description));
+        // Nothing was written: the row and the status row are as before.
+        QCOMPARE(c.Value(u"SELECT Autor || Titel FROM HEFTLIST WHERE Nr=1;"_s).toString(), u"AT"_s);
+        QCOMPARE(c.Value(u"SELECT COUNT(*) FROM HEFTLIST;"_s).toInt(), 1);
+        QCOMPARE(c.Value(u"SELECT COUNT(*) FROM Status;"_s).toInt(), 1);
+    }
+
+    void oneTrailingSemicolonIsFine()
+    {
+        TempCollection c;
+        QCOMPARE(c.session.CollectionDb->Execute(u"DELETE FROM Status WHERE Nr=1;  \r\n"_s).number, 0);
+        QCOMPARE(c.session.CollectionDb->Execute(u"DELETE FROM Status WHERE Nr=1"_s).number, 0);
+        QCOMPARE(c.session.CollectionDb->Execute(u"DELETE FROM Status WHERE Nr=1;;"_s).number, 3142);
+    }
+
+    void secondOpenOfTheSameFileFails()
+    {
+        TempCollection c;
+        DbError error;
+        auto second = Database::Open(c.Path(), &error);
+        QVERIFY(!second);
+        QCOMPARE(error.number, 3045);
+        // Once the first closes, the file opens again.
+        c.session.CollectionDb.reset();
+        second = Database::Open(c.Path(), &error);
+        QVERIFY(second != nullptr);
+    }
+
+    void openFailures()
+    {
+        QTemporaryDir dir;
+        DbError error;
+        QVERIFY(!Database::Open(dir.filePath(u"fehlt.mdb"_s), &error));
+        QCOMPARE(error.number, 3024);
+        QFile junk(dir.filePath(u"kaputt.mdb"_s));
+        QVERIFY(junk.open(QIODevice::WriteOnly));
+        junk.write(QByteArray(4096, 'x'));
+        junk.close();
+        QVERIFY(!Database::Open(junk.fileName(), &error));
+        QCOMPARE(error.number, 3343);
+    }
+
+    void ddlIsTranslated()
+    {
+        const TranslatedSql t = TranslateJetSql(
+            u"CREATE TABLE Gestaltung (Nr LONG, TiBiZeichner TEXT(64), RZ BIT, CONSTRAINT Nummer UNIQUE(Nr));"_s);
+        QVERIFY(t.sql.contains(u"TiBiZeichner TEXT COLLATE NOCASE"_s));
+        QVERIFY(t.sql.contains(u"CHECK(length(TiBiZeichner)<=64)"_s));
+        QVERIFY(t.sql.contains(u"CONSTRAINT Nummer UNIQUE(Nr)"_s));
+        QCOMPARE(t.followUps.size(), 2);
+    }
+};
+
+HEFT_TEST(TestDatabase)
+#include "tst_database.moc"
