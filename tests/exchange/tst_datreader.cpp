@@ -1,0 +1,311 @@
+#include "testmain.h"
+
+#include "exchange/datfile.h"
+#include "exchange/datreader.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace heft;
+
+class TestDatReader : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void oneLineFile()
+    {
+        QTemporaryDir dir;
+        const QString path = dir.filePath(u"Liste.dat"_s);
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("[Valdorin Heftromane]\r\n\"1\";\"A\";\"T\";\"-\";\"- - -\";\"Nein\";\"\";\r\n");
+        file.close();
+
+        DatInputFile input;
+        QVERIFY(input.Open(path));
+        QCOMPARE(KindOfHeader(input.ReadLine(), u"Valdorin"_s, u"Heftromane"_s), DatKind::List);
+        ListReader reader;
+        const ListRecord& r = reader.Read(input.ReadLine());
+        QVERIFY(input.AtEnd());
+        QVERIFY(r.IsGood());
+        QCOMPARE(r.Nr, u"1"_s);
+        QCOMPARE(r.Autor, u"A"_s);
+        QCOMPARE(r.Titel, u"T"_s);
+        QCOMPARE(r.AuflageNumber, 0);
+        QCOMPARE(r.Zyklus, u"- - -"_s);
+        QCOMPARE(r.Gelesen, false);
+        QCOMPARE(r.Bemerkung, QString());
+    }
+
+    void listFields_data()
+    {
+        QTest::addColumn<QString>("line");
+        QTest::addColumn<QString>("autor");
+        QTest::addColumn<QString>("titel");
+        QTest::addColumn<int>("auflage");
+        QTest::addColumn<QString>("zyklus");
+        QTest::addColumn<bool>("gelesen");
+        QTest::addColumn<QString>("bemerkung");
+
+        const QString a30 = u"Hanno Velden und Kurt Brandis"_s + u'!';
+        QTest::newRow("author cut to 25") << line(a30, u"T"_s, u"1"_s, u"I"_s, u"Ja"_s, u"x"_s) << a30.left(25)
+                                          << u"T"_s << 1 << u"I"_s << true << u"x"_s;
+        const QString t60 = QString(60, u'T');
+        QTest::newRow("title cut to 50") << line(u"A"_s, t60, u"5"_s, u"II"_s, u"ja"_s, QString()) << u"A"_s
+                                         << t60.left(50) << 5 << u"II"_s << true << QString();
+        QTest::newRow("lower-case cycle") << line(u"A"_s, u"T"_s, u"2"_s, u"xiv"_s, u"JA"_s, QString()) << u"A"_s
+                                          << u"T"_s << 2 << u"XIV"_s << true << QString();
+        QTest::newRow("digits are no cycle") << line(u"A"_s, u"T"_s, u"2"_s, u"14"_s, u"Nein"_s, QString())
+                                             << u"A"_s << u"T"_s << 2 << u"- - -"_s << false << QString();
+        QTest::newRow("empty cycle") << line(u"A"_s, u"T"_s, QString(), QString(), QString(), QString()) << u"A"_s
+                                     << u"T"_s << 0 << u"- - -"_s << false << QString();
+        QTest::newRow("cycle cut before the test") << line(u"A"_s, u"T"_s, u"1"_s, u"MMMDCCCLXXXVIII"_s,
+                                                           u"x"_s, QString())
+                                                   << u"A"_s << u"T"_s << 1 << u"MMMDCCCL"_s << false << QString();
+        QTest::newRow("cut removes a trailing letter")
+            << line(u"A"_s, u"T"_s, u"1"_s, u"XXXXXXXXA"_s, u"x"_s, QString()) << u"A"_s << u"T"_s << 1
+            << u"XXXXXXXX"_s << false << QString();
+        QTest::newRow("printing above the maximum") << line(u"A"_s, u"T"_s, u"6"_s, u"I"_s, u"x"_s, QString())
+                                                    << u"A"_s << u"T"_s << 0 << u"I"_s << false << QString();
+        QTest::newRow("printing read by Val") << line(u"A"_s, u"T"_s, u"3. Aufl."_s, u"I"_s, u"x"_s, QString())
+                                              << u"A"_s << u"T"_s << 3 << u"I"_s << false << QString();
+        QTest::newRow("read mark needs exactly ja") << line(u"A"_s, u"T"_s, u"1"_s, u"I"_s, u"Ja "_s, QString())
+                                                    << u"A"_s << u"T"_s << 1 << u"I"_s << false << QString();
+        const QString b70 = QString(70, u'b');
+        QTest::newRow("remark cut to 64") << line(u"A"_s, u"T"_s, u"1"_s, u"I"_s, u"x"_s, b70) << u"A"_s << u"T"_s
+                                          << 1 << u"I"_s << false << b70.left(64);
+        QTest::newRow("remark beginning with the separator")
+            << line(u"A"_s, u"T"_s, u"1"_s, u"I"_s, u"x"_s, u"\";x"_s) << u"A"_s << u"T"_s << 1 << u"I"_s << false
+            << u"\";x\";"_s;
+        QTest::newRow("separator inside the title shifts the rest")
+            << line(u"A"_s, u"Ti\";\"tel"_s, u"1"_s, u"I"_s, u"Ja"_s, QString()) << u"A"_s << u"Ti"_s << 0
+            << u"- - -"_s << false << u"Ja"_s;
+        QTest::newRow("umlauts") << line(u"Jörg Weißhaupt"_s, u"Die Brücke über den Äther"_s, u"1"_s, u"I"_s,
+                                         u"x"_s, u"Rücken geknickt"_s)
+                                 << u"Jörg Weißhaupt"_s << u"Die Brücke über den Äther"_s << 1 << u"I"_s << false
+                                 << u"Rücken geknickt"_s;
+    }
+    void listFields()
+    {
+        QFETCH(QString, line);
+        ListReader reader;
+        const ListRecord& r = reader.Read(line);
+        QVERIFY(r.IsGood());
+        QTEST(r.Autor, "autor");
+        QTEST(r.Titel, "titel");
+        QTEST(r.AuflageNumber, "auflage");
+        QTEST(r.Zyklus, "zyklus");
+        QTEST(r.Gelesen, "gelesen");
+        QCOMPARE(r.GL, r.Gelesen ? line.section(u"\";\""_s, 5, 5) : u"Nein"_s);
+        QTEST(r.Bemerkung, "bemerkung");
+    }
+
+    // A line that ends early keeps the previous line's values in the fields
+    // it lacks, and is still good while Nr, Autor and Titel are there.
+    void missingTrailingFieldsKeepPreviousValues()
+    {
+        ListReader reader;
+        reader.Read(line(u"A"_s, u"T"_s, u"2"_s, u"iv"_s, u"Ja"_s, u"Gut"_s));
+        const ListRecord& r = reader.Read(u"\"2\";\"B\";\"U\";\"3\";"_s);
+        QVERIFY(r.IsGood());
+        QCOMPARE(r.Nr, u"2"_s);
+        QCOMPARE(r.Titel, u"U"_s);
+        QCOMPARE(r.AuflageNumber, 2);
+        QCOMPARE(r.Zyklus, u"IV"_s);
+        QVERIFY(r.Gelesen);
+        QCOMPARE(r.Bemerkung, u"Gut"_s);
+    }
+
+    void goodListLines_data()
+    {
+        QTest::addColumn<QString>("line");
+        QTest::addColumn<unsigned>("bits");
+        QTest::newRow("complete") << line(u"A"_s, u"T"_s, u"1"_s, u"I"_s, u"Ja"_s, u"x"_s) << 127u;
+        // The title is cut at ";" and needs the next field's opening quote.
+        QTest::newRow("three fields only") << u"\"2\";\"B\";\"U\";"_s << 3u;
+        QTest::newRow("no separator at all") << u"Kaputt"_s << 0u;
+        QTest::newRow("empty line") << QString() << 0u;
+        QTest::newRow("empty author is still read") << u"\"2\";\"\";\"U\";\"1\";\"I\";\"Ja\";\"\";"_s << 127u;
+    }
+    void goodListLines()
+    {
+        QFETCH(QString, line);
+        QFETCH(unsigned, bits);
+        ListReader reader;
+        const ListRecord& r = reader.Read(line);
+        QCOMPARE(r.Bits, bits);
+        QCOMPARE(r.IsGood(), (bits & GoodListBits) == GoodListBits);
+    }
+
+    void cycleLines_data()
+    {
+        QTest::addColumn<QString>("line");
+        QTest::addColumn<bool>("good");
+        QTest::addColumn<QStringList>("values");
+        QTest::newRow("complete") << u"\"XII\";\"801\";\"850\";\"-1200\";\"-1150\";\"Die Nebelkriege\";\"Aufbruch\";"_s
+                                  << true
+                                  << QStringList{u"XII"_s, u"801"_s, u"850"_s, u"-1200"_s, u"-1150"_s,
+                                                 u"Die Nebelkriege"_s, u"Aufbruch"_s};
+        QTest::newRow("limits") << u"\"XXXVIIIII\";\"123456\";\"9\";\"1\";\"2\";\""_s + QString(55, u'b') +
+                                       u"\";\""_s + QString(55, u'g') + u"\";"_s
+                                << true
+                                << QStringList{u"XXXVIIII"_s, u"12345"_s, u"9"_s, u"1"_s, u"2"_s, QString(50, u'b'),
+                                               QString(50, u'g')};
+        QTest::newRow("without the big cycle") << u"\"I\";\"1\";\"50\";\"2040\";\"2050\";\"Bez\";\"\";"_s << true
+                                               << QStringList{u"I"_s, u"1"_s, u"50"_s, u"2040"_s, u"2050"_s,
+                                                              u"Bez"_s, QString()};
+        // Bezeichnung finds no ";" and stays as it was; the failed cut still
+        // takes two characters off the rest, and the last field reads "z".
+        QTest::newRow("six fields are not enough") << u"\"I\";\"1\";\"50\";\"2040\";\"2050\";\"Bez\";"_s << false
+                                                   << QStringList{u"I"_s, u"1"_s, u"50"_s, u"2040"_s, u"2050"_s,
+                                                                  QString(), u"z"_s};
+    }
+    void cycleLines()
+    {
+        QFETCH(QString, line);
+        QFETCH(bool, good);
+        QFETCH(QStringList, values);
+        CycleReader reader;
+        const CycleRecord& r = reader.Read(line);
+        QCOMPARE(r.IsGood(), good);
+        QCOMPARE((QStringList{r.Zyklus, r.NrVon, r.NrBis, r.ZeitVon, r.ZeitBis, r.Bezeichnung, r.Zyklusbereich}),
+                 values);
+    }
+
+    void detailsLine()
+    {
+        DetailsReader reader({5, 20});
+        const QString persons = u"\"Tarvin\";\"Mela\";\"A234567890123456789012345678901234\";\"\";\"\";\"\";\"\";\"\";\"\";"_s;
+        QString text = u"\"17\";\"1961-12-29\";\"Der Untertitel\";"_s + persons +
+                       u"\"Ein Inhalt, der zu lang ist.\";\"Tibi\";\"Illu\";\"JA\";\"Kreuzer\";\"Rize\";"_s;
+        for (int e = 1; e <= StatusCount; ++e)
+            text += DatField(e == 10 ? u"0000064"_s : u"S%1"_s.arg(e));
+        text += u"\"16\";\"Fortsetzung von Band 16\";\"Valdorin Heftromane\";\"3\";\"Vorlage\";\"Valdorin Taschenbücher\";"_s;
+        const DetailsRecord& r = reader.Read(text);
+        QVERIFY(r.IsGood());
+        QCOMPARE(r.Nr, u"17"_s);
+        QCOMPARE(r.Ersterscheinung, u"1961-12-29"_s);
+        QCOMPARE(r.Untertitel, u"Der Untertitel"_s);
+        QCOMPARE(r.Persons[1], u"Mela"_s);
+        QCOMPARE(r.Persons[2].size(), 32);
+        QCOMPARE(r.Inhalt, u"Ein Inhalt, der zu l"_s);
+        QCOMPARE(r.TiBiZeichner, u"Tibi"_s);
+        QVERIFY(r.Rz);
+        QCOMPARE(r.RiZeZeichner, u"Rize"_s);
+        QVERIFY(r.HasStatus);
+        QCOMPARE(r.Status[0], u"S1"_s);
+        QCOMPARE(r.Status[9], u"0000064"_s);
+        QCOMPARE(r.Status[18], u"S19"_s);
+        QCOMPARE(r.LinksRead, 2);
+        QCOMPARE(r.Links[0].Num, 16);
+        QCOMPARE(r.Links[0].Text, u"Fortsetzung von Band 16"_s);
+        QCOMPARE(r.Links[1].Serie, u"Valdorin Taschenbücher"_s);
+    }
+
+    // "; alone behind field 18 means the entry's Status and Links stay as
+    // they are: the reader leaves them as the line before left them.
+    void noStatusPartLeavesStatusAlone()
+    {
+        DetailsReader reader;
+        DetailsRecord first;
+        first.Nr = u"1"_s;
+        first.Status[6] = u"Karton 3"_s;
+        first.Links[0] = {2, u"Fortsetzung in Band 2"_s, u"Valdorin Heftromane"_s};
+        first.LinksRead = 1;
+        QVERIFY(reader.Read(DetailsLine(first)).HasStatus);
+
+        const DetailsRecord& r = reader.Read(u"\"2\";\"\";\"\";\"\";\"\";\"\";\"\";\"\";\"\";\"\";\"\";\"\";"
+                                             "\"\";\"\";\"\";\"\";\"\";\"\";\"  \";  "_s);
+        QVERIFY(r.IsGood());
+        QCOMPARE(r.Nr, u"2"_s);
+        QVERIFY(!r.HasStatus);
+        QCOMPARE(r.LinksRead, 0);
+        QCOMPARE(r.Status[6], u"Karton 3"_s);
+        QCOMPARE(r.Links[0].Num, 2);
+    }
+
+    void linkCount_data()
+    {
+        QTest::addColumn<int>("written");
+        QTest::addColumn<int>("read");
+        QTest::newRow("none") << 0 << 0;
+        QTest::newRow("one") << 1 << 1;
+        QTest::newRow("sixteen") << 16 << 16;
+        QTest::newRow("seventeen") << 17 << 16;
+    }
+    void linkCount()
+    {
+        QFETCH(int, written);
+        QString text = u"\"5\";"_s + QString(17, u'x').replace(u"x"_s, u"\"\";"_s);
+        for (int e = 1; e <= StatusCount; ++e)
+            text += DatField(QString());
+        for (int i = 1; i <= written; ++i)
+            text += DatField(QString::number(100 + i)) + DatField(u"Text %1"_s.arg(i)) + DatField(u"Serie"_s);
+        DetailsReader reader;
+        const DetailsRecord& r = reader.Read(text);
+        QTEST(r.LinksRead, "read");
+        for (int i = 0; i < r.LinksRead; ++i)
+            QCOMPARE(r.Links[static_cast<size_t>(i)].Num, 101 + i);
+    }
+
+    void lineEnds()
+    {
+        QTemporaryDir dir;
+        const QString path = dir.filePath(u"Enden.dat"_s);
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("a\r\nb\rc\nd\r\n\r\n\xe4");
+        file.close();
+        DatInputFile input;
+        QVERIFY(input.Open(path));
+        QStringList lines;
+        while (!input.AtEnd())
+            lines << input.ReadLine();
+        QCOMPARE(lines, (QStringList{u"a"_s, u"b"_s, u"c\nd"_s, QString(), u"ä"_s}));
+        QCOMPARE(input.ReadLine(), QString());
+    }
+
+    void emptyFileHasNoHeader()
+    {
+        QTemporaryDir dir;
+        const QString path = dir.filePath(u"Leer.dat"_s);
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.close();
+        DatInputFile input;
+        QVERIFY(input.Open(path));
+        QVERIFY(input.AtEnd());
+        QCOMPARE(KindOfHeader(input.ReadLine(), u"Valdorin"_s, u"Heftromane"_s), DatKind::None);
+    }
+
+    void headers_data()
+    {
+        QTest::addColumn<QString>("line");
+        QTest::addColumn<DatKind>("kind");
+        QTest::newRow("list") << u"[Valdorin Heftromane]"_s << DatKind::List;
+        QTest::newRow("cycles") << u"[Valdorin Zyklen]"_s << DatKind::Cycle;
+        QTest::newRow("details") << u"[Valdorin Details]"_s << DatKind::Details;
+        QTest::newRow("other list kind") << u"[Valdorin Taschenbücher]"_s << DatKind::None;
+        QTest::newRow("case matters") << u"[valdorin heftromane]"_s << DatKind::None;
+        QTest::newRow("whole line") << u"[Valdorin Heftromane] "_s << DatKind::None;
+        QTest::newRow("empty") << QString() << DatKind::None;
+    }
+    void headers()
+    {
+        QFETCH(QString, line);
+        QTEST(KindOfHeader(line, u"Valdorin"_s, u"Heftromane"_s), "kind");
+    }
+
+private:
+    static QString line(const QString& autor, const QString& titel, const QString& auflage, const QString& zyklus,
+                        const QString& gl, const QString& bemerkung)
+    {
+        return DatField(u"1"_s) + DatField(autor) + DatField(titel) + DatField(auflage) + DatField(zyklus) +
+               DatField(gl) + DatField(bemerkung);
+    }
+};
+
+HEFT_TEST(TestDatReader)
+#include "tst_datreader.moc"
