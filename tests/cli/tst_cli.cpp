@@ -1,0 +1,82 @@
+// heftarium-cli as a script would use it: a new collection, its summary, and
+// statements with their printed results and exit codes.
+
+#include "testmain.h"
+
+#include "cli/clicommands.h"
+
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct CliRun {
+    int code;
+    QString out;
+    QString err;
+    bool operator==(const CliRun&) const = default;
+};
+
+CliRun Run(const QStringList& arguments)
+{
+    QString out, err;
+    QTextStream outStream(&out), errStream(&err);
+    const int code = heft::RunCli(arguments, outStream, errStream);
+    outStream.flush();
+    errStream.flush();
+    return {code, out, err};
+}
+
+} // namespace
+
+class TestCli : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void createInfoAndSql()
+    {
+        QTemporaryDir dir;
+        const QString db = dir.filePath(u"Neu.mdb"_s);
+        QCOMPARE(Run({u"create"_s, db, u"--series"_s, u"Sternenfahrer"_s, u"--kind"_s, u"Hefte"_s}).code, 0);
+        // A second create on the same file refuses.
+        QCOMPARE(Run({u"create"_s, db, u"--series"_s, u"X"_s, u"--kind"_s, u"Y"_s}).code, 1);
+
+        for (int nr : {5, 12})
+            QCOMPARE(Run({u"--db"_s, db, u"sql"_s,
+                          u"INSERT INTO HEFTLIST VALUES (%1, 'Ö. Autor', 'T', 0, 'I', 255, NULL);"_s.arg(nr)}),
+                     (CliRun{0, u"0\n"_s, QString()}));
+        const CliRun info = Run({u"--db"_s, db, u"info"_s});
+        QCOMPARE(info.out, u"Serie: Sternenfahrer\nListe: Hefte\nEinträge: 2\nNummern: 5 - 12\n"_s);
+
+        const CliRun rows = Run({u"--db"_s, db, u"sql"_s, u"SELECT Nr, Autor, GL, Bemerkung FROM HEFTLIST;"_s});
+        QCOMPARE(rows.out, u"5\tÖ. Autor\t-1\t<NULL>\n12\tÖ. Autor\t-1\t<NULL>\n"_s);
+
+        const CliRun duplicate = Run({u"--db"_s, db, u"sql"_s,
+                                      u"INSERT INTO HEFTLIST VALUES (5, 'A', 'T', 0, 'I', 0, '');"_s});
+        QCOMPARE(duplicate.code, 1);
+        QVERIFY(duplicate.out.startsWith(u"3022 The changes you requested"_s));
+        QCOMPARE(Run({u"--db"_s, db, u"sql"_s, u"SELECT * FROM Fehlt;"_s}).code, 1);
+    }
+
+    void badCalls_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<int>("code");
+        QTest::newRow("nothing") << QStringList() << 2;
+        QTest::newRow("create without kind") << QStringList{u"create"_s, u"x.mdb"_s, u"--series"_s, u"S"_s} << 2;
+        QTest::newRow("unknown command") << QStringList{u"--db"_s, u"/nirgends/x.mdb"_s, u"info"_s} << 1;
+    }
+    void badCalls()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(int, code);
+        const CliRun run = Run(arguments);
+        QCOMPARE(run.code, code);
+        QVERIFY(!run.err.isEmpty());
+    }
+};
+
+HEFT_TEST(TestCli)
+#include "tst_cli.moc"
