@@ -1,0 +1,35 @@
+#pragma once
+// The benchmark's frame: named figures, medians of repeated runs, peak
+// memory, and generated collections kept for the whole run.
+
+#include <QString>
+
+#include <functional>
+
+namespace heft::bench {
+
+struct Figure {
+    QString name; // with the unit in it, e.g. "load_100k_ms"
+    std::function<double()> measure;
+};
+
+void Register(Figure figure);
+// Runs the figures whose names start with one of the prefixes (all when
+// none is given) and prints "name: value" per figure.
+int RunFigures(const QStringList& prefixes);
+
+// Median wall time in milliseconds of `runs` calls.
+double MedianMs(int runs, const std::function<void()>& job);
+// Peak resident memory of the process in MB (VmHWM), and its reset, so that
+// a figure measures its own job and not the generation before it.
+double PeakMemoryMb();
+void ResetPeakMemory();
+
+// A generated collection of the given size, made once per run in a
+// temporary folder; the path of a fresh copy for each call.
+QString CollectionCopy(int entries);
+
+} // namespace heft::bench
+
+#define HEFT_BENCH_FIGURE(name, body) \
+    static const bool registered_##name = (heft::bench::Register({QStringLiteral(#name), body}), true);

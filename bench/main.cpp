@@ -1,0 +1,17 @@
+// heftarium-bench [PREFIX...]: prints "name: value" for each figure whose
+// name starts with one of the prefixes, or for all figures.
+
+#include "benchsupport.h"
+
+#include <QApplication>
+#include <QLocale>
+
+int main(int argc, char** argv)
+{
+    // The list model lives in the widgets library; an offscreen platform
+    // keeps the benchmark runnable without a display.
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
+    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+    return heft::bench::RunFigures(app.arguments().mid(1));
+}
