@@ -1,0 +1,139 @@
+#include "listfixture.h"
+#include "testmain.h"
+
+#include "mainwin/entryrows.h"
+
+#include <QAbstractItemModelTester>
+#include <QFont>
+#include <QPixmap>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace heft;
+using namespace heft::test;
+
+class TestEntryGridModel : public QObject {
+    Q_OBJECT
+
+private:
+    // Rows given as "Nr|text of the sorted column".
+    static std::vector<EntryCells> RowsOf(int column, const QStringList& rows)
+    {
+        std::vector<EntryCells> cells;
+        for (const QString& row : rows) {
+            const QStringList parts = row.split(u'|');
+            EntryCells entry;
+            entry[ColNr] = parts[0];
+            entry[static_cast<size_t>(column)] = parts.value(1, parts[0]);
+            cells.push_back(entry);
+        }
+        return cells;
+    }
+
+private Q_SLOTS:
+    void fillFromCollection_data()
+    {
+        QTest::addColumn<int>("row");
+        QTest::addColumn<QStringList>("cells");
+        QTest::newRow("full entry, read")
+            << 0 << QStringList{u"7"_s, u"Kurt Brand"_s, u"Die Falle"_s, u"3"_s, u"IV"_s, u"ü"_s, u"Erstauflage fehlt"_s};
+        QTest::newRow("printing 0 and no remark stay empty")
+            << 1 << QStringList{u"12"_s, u"Ernst Vlcek"_s, u"Über den Wolken"_s, QString(), u"- - -"_s, QString(), QString()};
+        QTest::newRow("null cycle") << 2
+                                    << QStringList{u"300"_s, u"Ölaf Ürban"_s, u"D'Artagnan"_s, u"1"_s, u"? ? ?"_s, QString(), QString()};
+    }
+    void fillFromCollection()
+    {
+        QFETCH(int, row);
+        QFETCH(QStringList, cells);
+        TempCollection collection;
+        collection.Add({{7, u"Kurt Brand"_s, u"Die Falle"_s, 3, u"IV"_s, true, u"Erstauflage fehlt"_s},
+                        {300, u"Ölaf Ürban"_s, u"D'Artagnan"_s, 1},
+                        {12, u"Ernst Vlcek"_s, u"Über den Wolken"_s}});
+        collection.Exec(u"UPDATE HEFTLIST SET Zyklus=NULL WHERE Nr=300;"_s);
+        EntryGridModel model;
+        QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        QCOMPARE(FillEntryModel(*collection.session.CollectionDb, model), 3);
+        for (int col = 0; col < EntryColumnCount; ++col)
+            QCOMPARE(model.data(model.index(row, col)).toString(), cells[col]);
+    }
+
+    void sort_data()
+    {
+        QTest::addColumn<int>("column");
+        QTest::addColumn<int>("mode");
+        QTest::addColumn<QStringList>("rows");
+        QTest::addColumn<QStringList>("expectedNr");
+        QTest::newRow("numbers by value, not by text")
+            << int(ColNr) << int(SortNumericAscending) << QStringList{u"100"_s, u"9"_s, u"20"_s} << QStringList{u"9"_s, u"20"_s, u"100"_s};
+        QTest::newRow("numbers descending")
+            << int(ColNr) << int(SortNumericDescending) << QStringList{u"9"_s, u"100"_s, u"20"_s} << QStringList{u"100"_s, u"20"_s, u"9"_s};
+        QTest::newRow("empty printing counts as 0, ties keep their order")
+            << int(ColAuflage) << int(SortNumericAscending) << QStringList{u"1|2"_s, u"2|"_s, u"3|1"_s, u"4|"_s}
+            << QStringList{u"2"_s, u"4"_s, u"3"_s, u"1"_s};
+        QTest::newRow("case-blind, umlaut beside its letter")
+            << int(ColAutor) << int(SortGenericAscending)
+            << QStringList{u"1|Zander"_s, u"2|ärger"_s, u"3|Bauer"_s, u"4|Apfel"_s, u"5|arndt"_s}
+            << QStringList{u"4"_s, u"2"_s, u"5"_s, u"3"_s, u"1"_s};
+        QTest::newRow("digit runs by value")
+            << int(ColTitel) << int(SortGenericAscending) << QStringList{u"1|Teil 10"_s, u"2|Teil 9"_s, u"3|Teil 2"_s}
+            << QStringList{u"3"_s, u"2"_s, u"1"_s};
+        QTest::newRow("equal texts keep their order, also descending")
+            << int(ColAutor) << int(SortGenericDescending) << QStringList{u"1|Mahr"_s, u"2|Zahn"_s, u"3|MAHR"_s, u"4|mahr"_s}
+            << QStringList{u"2"_s, u"1"_s, u"3"_s, u"4"_s};
+        QTest::newRow("read marks before unread when descending")
+            << int(ColGelesen) << int(SortGenericDescending) << QStringList{u"1|"_s, u"2|ü"_s, u"3|"_s, u"4|ü"_s}
+            << QStringList{u"2"_s, u"4"_s, u"1"_s, u"3"_s};
+    }
+    void sort()
+    {
+        QFETCH(int, column);
+        QFETCH(int, mode);
+        QFETCH(QStringList, rows);
+        QFETCH(QStringList, expectedNr);
+        EntryGridModel model;
+        QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        model.Reset(RowsOf(column, rows));
+        const QPersistentModelIndex first = model.index(0, column);
+        const QString firstText = first.data().toString();
+        model.Sort(column, static_cast<SortMode>(mode));
+        QStringList numbers;
+        for (int row = 0; row < model.rowCount(); ++row)
+            numbers << model.Text(row, ColNr);
+        QCOMPARE(numbers, expectedNr);
+        // Views keep their place on the entry, wherever it went.
+        QCOMPARE(first.data().toString(), firstText);
+        QCOMPARE(model.FindNr(expectedNr.last().toInt()), model.rowCount() - 1);
+    }
+
+    void editRows()
+    {
+        EntryGridModel model;
+        QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        model.Reset(RowsOf(ColTitel, {u"5|A"_s, u"6|B"_s}));
+        model.AppendRow();
+        model.SetText(2, ColNr, u"8"_s);
+        model.RemoveRow(0);
+        QCOMPARE(model.rowCount(), 2);
+        QCOMPARE(model.FindNr(8), 1);
+        QCOMPARE(model.FindNr(5), -1);
+    }
+
+    void headerMarks()
+    {
+        EntryGridModel model;
+        model.SetHeaderMark(ColNr, true, SortPicture::Down);
+        QVERIFY(model.headerData(ColNr, Qt::Horizontal, Qt::FontRole).value<QFont>().bold());
+        QVERIFY(!model.headerData(ColNr, Qt::Horizontal, Qt::DecorationRole).value<QPixmap>().isNull());
+        QVERIFY(model.headerData(ColTitel, Qt::Horizontal, Qt::DecorationRole).isNull());
+        QCOMPARE(model.headerData(ColNr, Qt::Horizontal, EntryGridModel::PictureAlignmentRole).value<Qt::Alignment>()
+                     & Qt::AlignHorizontal_Mask,
+                 Qt::AlignLeft);
+        QCOMPARE(model.headerData(ColZyklus, Qt::Horizontal, EntryGridModel::PictureAlignmentRole).value<Qt::Alignment>()
+                     & Qt::AlignHorizontal_Mask,
+                 Qt::AlignRight);
+    }
+};
+
+HEFT_TEST(TestEntryGridModel)
+#include "tst_entrygridmodel.moc"
