@@ -1,0 +1,43 @@
+// Heftarium's entry: prepares the data folder and the log, opens the
+// collection and the cycle file, and loads the main window.
+
+#include "datafolder.h"
+#include "messageboxprompter.h"
+#include "startup.h"
+
+#include "core/sqlwriters.h"
+#include "mainwin/mainwindow.h"
+
+#include <QApplication>
+#include <QLocale>
+
+using namespace Qt::StringLiterals;
+
+int main(int argc, char** argv)
+{
+    QApplication app(argc, argv);
+    QApplication::setApplicationName(u"Heftarium"_s);
+    // The program speaks German and shows dates the German way everywhere.
+    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+
+    heft::Session session;
+    heft::MessageBoxPrompter prompter;
+    session.prompter = &prompter;
+    session.ActiveCaption = [] {
+        const QWidget* active = QApplication::activeModalWidget();
+        if (active == nullptr)
+            active = QApplication::activeWindow();
+        return active != nullptr ? active->windowTitle() : QString();
+    };
+
+    const heft::StartOptions options{heft::UserDataBase(), heft::AllUsersSource(),
+                                     QCoreApplication::applicationDirPath(),
+                                     QCoreApplication::arguments().mid(1).join(u' ')};
+    if (!heft::StartSession(session, options))
+        return 1;
+
+    heft::MainWindow window;
+    window.LoadList(session);
+    QObject::connect(&app, &QCoreApplication::aboutToQuit, [&session] { heft::CloseDatabases(session); });
+    return QApplication::exec();
+}
