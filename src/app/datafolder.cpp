@@ -61,7 +61,10 @@ QString PrepareDataFolder(const QString& base, const QString& allUsersSource, co
         dir.mkdir(dataFolder);
         for (const QString& folder : FirstStartFolders())
             dir.mkdir(dataFolder + u'/' + folder);
-        for (const QString& file : ShippedFiles()) {
+        // Without an installed copy there is nothing to copy; a relative name
+        // would otherwise be looked up in the working folder.
+        const QStringList files = allUsersSource.isEmpty() ? QStringList() : ShippedFiles();
+        for (const QString& file : files) {
             const QString target = dataFolder + u'/' + file;
             // A copy replaces what is there: deleting the marker asks for a
             // fresh start with the shipped files.
