@@ -32,7 +32,7 @@ public:
     // Whole rows the view can show at once; the view keeps this up to date.
     int VisibleRows() const { return m_visibleRows; }
     void SetVisibleRows(int rows) { m_visibleRows = rows; }
-    // Width in pixels that the columns have to share.
+    // Width in pixels that the columns share beside a vertical scroll bar.
     int ClientWidth() const { return m_clientWidth; }
     void SetClientWidth(int pixels) { m_clientWidth = pixels; }
 

@@ -31,7 +31,11 @@ void EntryGridHeader::initStyleOptionForIndex(QStyleOptionHeader* option, int lo
 
 void EntryGridHeader::paintSection(QPainter* painter, const QRect& rect, int logicalIndex) const
 {
+    // The base leaves the painter clipped to nothing; the picture needs the
+    // painter as it came.
+    painter->save();
     QHeaderView::paintSection(painter, rect, logicalIndex);
+    painter->restore();
     if (!model())
         return;
     const QPixmap picture = model()->headerData(logicalIndex, Qt::Horizontal, Qt::DecorationRole).value<QPixmap>();

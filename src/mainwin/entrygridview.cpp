@@ -8,6 +8,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QScrollBar>
+#include <QStyle>
 #include <QToolTip>
 
 namespace heft {
@@ -177,7 +178,10 @@ void EntryGridView::focusOutEvent(QFocusEvent* event)
 void EntryGridView::resizeEvent(QResizeEvent* event)
 {
     QTableView::resizeEvent(event);
-    m_grid.SetClientWidth(viewport()->width());
+    // Column 6 is fitted for a full list, whose scroll bar takes its share
+    // of the width; a short list without one lets the last column stretch.
+    const int scrollBarShare = verticalScrollBar()->isVisible() ? 0 : style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    m_grid.SetClientWidth(viewport()->width() - scrollBarShare);
     m_grid.SetVisibleRows(std::max(1, viewport()->height() / verticalHeader()->defaultSectionSize()));
     // The top row may have been set before the view had its size.
     ShowTopRow();

@@ -6,6 +6,8 @@
 #include "core/session.h"
 #include "core/textfuncs.h"
 
+#include <QFontMetricsF>
+
 using namespace Qt::StringLiterals;
 
 namespace heft {
@@ -16,6 +18,17 @@ namespace {
 constexpr std::array<int, ColBemerkung> FixedColumnWidths{520, 1800, 3300, 520, 900, 520};
 // Column 6 never starts narrower than this, even in a narrow window.
 constexpr int MinRemarkWidth = 1800;
+// The widths above were laid out for the classic 8-point dialog font, whose
+// digits are 75 twips wide (5 pixels at 96 DPI).
+constexpr double ClassicDigitWidth = 75.0;
+
+// A wider desktop font widens the fixed columns in proportion, so that the
+// numbers and the headers still fit.
+double WidthScale(const QFont& font)
+{
+    const double digitWidth = QFontMetricsF(font).horizontalAdvance(u'0') * TwipsPerPixel();
+    return std::max(1.0, digitWidth / ClassicDigitWidth);
+}
 
 } // namespace
 
@@ -28,10 +41,12 @@ EntryList::EntryList(QObject* parent) : QObject(parent)
 void EntryList::SetupGridColumns()
 {
     EntryGrid& grid = *ActiveGrid;
+    const double scale = WidthScale(grid.Font());
     int fixedSum = 0;
     for (int col = 0; col < ColBemerkung; ++col) {
-        grid.SetColWidth(col, FixedColumnWidths[static_cast<size_t>(col)]);
-        fixedSum += FixedColumnWidths[static_cast<size_t>(col)];
+        const int width = static_cast<int>(FixedColumnWidths[static_cast<size_t>(col)] * scale);
+        grid.SetColWidth(col, width);
+        fixedSum += width;
         grid.Model().SetHeaderMark(col, false, SortPicture::None);
     }
     grid.SetColWidth(ColBemerkung, std::max(MinRemarkWidth, PixelsToTwips(grid.ClientWidth()) - fixedSum));

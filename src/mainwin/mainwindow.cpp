@@ -81,7 +81,7 @@ EntryGridView* MainWindow::AddGridView(EntryGrid& grid, const QString& name)
 void MainWindow::LoadList(Session& session)
 {
     m_session = &session;
-    session.RemoveEntryRows = [this](int nr) { m_list.RemoveEntryRows(nr); };
+    session.RemoveEntryRows = [this](int nr) { RemoveEntryRows(nr); };
     setWindowTitle(u"HEFTARIUM: %1 (%2)"_s.arg(session.Config.SeriesName, session.Config.ListKind));
     m_list.ActiveGrid = &m_list.Heftliste;
 
