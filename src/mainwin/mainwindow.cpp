@@ -3,8 +3,8 @@
 #include "entrygridview.h"
 #include "statusbar.h"
 #include "twips.h"
-#include "waitms.h"
 
+#include "core/drives.h"
 #include "core/session.h"
 #include "core/textfuncs.h"
 
