@@ -33,8 +33,10 @@ public:
     }
     void Flush()
     {
-        if (!m_rows.isEmpty())
-            m_db.Execute(m_head + m_rows.join(u", "_s) + u';');
+        if (m_rows.isEmpty())
+            return;
+        if (const DbError error = m_db.Execute(m_head + m_rows.join(u", "_s) + u';'))
+            qFatal("generated rows refused: %s", qPrintable(error.description));
         m_rows.clear();
     }
 
@@ -73,7 +75,7 @@ bool GenerateCollection(const QString& path, int entries)
         BatchInserter status(*db, u"INSERT INTO Status VALUES "_s);
         BatchInserter links(*db, u"INSERT INTO Links VALUES "_s);
         for (int nr = 1; nr <= entries; ++nr) {
-            int cycle = 1 + nr / 100;
+            int cycle = 1 + (nr / 100) % 35;
             list.Add(u"(%1, '%2', '%3 %4', %5, '%6', %7, %8)"_s.arg(nr)
                          .arg(Authors[nr % Authors.size()], TitleStart[nr % TitleStart.size()],
                               TitleEnd[(nr / 3) % TitleEnd.size()])
