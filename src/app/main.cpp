@@ -37,7 +37,6 @@ int main(int argc, char** argv)
         return 1;
 
     heft::MainWindow window;
-    window.show();
     window.LoadList(session);
     QObject::connect(&app, &QCoreApplication::aboutToQuit, [&session] { heft::CloseDatabases(session); });
     return QApplication::exec();

@@ -53,7 +53,9 @@ MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent)
     m_progress->hide();
 
     connect(&m_list, &EntryList::StatusPanelChanged, this, &MainWindow::SetStatusPanel);
+    connect(&m_list, &EntryList::EntryCommandsDisabled, this, &MainWindow::DisableEntryCommands);
     m_list.ShowFilterGrid(false);
+    SetupCommands();
 }
 
 MainWindow::~MainWindow()
@@ -84,11 +86,13 @@ void MainWindow::LoadList(Session& session)
     session.RemoveEntryRows = [this](int nr) { RemoveEntryRows(nr); };
     setWindowTitle(u"HEFTARIUM: %1 (%2)"_s.arg(session.Config.SeriesName, session.Config.ListKind));
     m_list.ActiveGrid = &m_list.Heftliste;
+    RestoreWindowPlacement();
 
     const int count = session.CollectionDb->SelectValue(u"SELECT COUNT(*) FROM HEFTLIST;"_s).toInt();
     if (!session.SharedRecordset.IsOpen())
         session.SharedRecordset = session.CollectionDb->Select(u"SELECT * FROM HEFTLIST ORDER BY Nr;"_s);
     StartProgress(count);
+    show();
     SetStatusPanel(5, u"Lese Einträge aus der Datenbank ..."_s);
     SetStatusPanel(3, u"1/%1"_s.arg(count));
     m_list.SetupGridColumns();
@@ -98,6 +102,8 @@ void MainWindow::LoadList(Session& session)
     const EntryGrid& grid = m_list.Heftliste;
     m_list.HighestNr = static_cast<int>(Val(grid.TextMatrix(grid.Rows() - 1, ColNr)));
     m_list.LowestNr = static_cast<int>(Val(grid.TextMatrix(1, ColNr)));
+    CheckDetailsTable();
+    EnableCommands();
     SetStatusPanel(5, u"Fertig und Bereit."_s);
     FinishProgress(250);
 }

@@ -7,12 +7,16 @@
 
 #include <QMainWindow>
 
+#include <functional>
+
+class QAction;
 class QProgressBar;
 class QTimer;
 
 namespace heft {
 
 class EntryGridView;
+class MainCommands;
 class Session;
 class StatusBar;
 
@@ -24,6 +28,21 @@ public:
     ~MainWindow() override;
 
     EntryList& List() { return m_list; }
+    Session& CurrentSession() { return *m_session; }
+    bool IsFilterMode() const { return m_list.ActiveGrid == &m_list.Filter; }
+
+    // The commands by the object names of their menu items (mnu_edit, ...)
+    // and toolbar buttons (edit, ...).
+    QAction* Command(const QString& name) const;
+    // Gives a command its work; until then it stays off.
+    void SetCommandHandler(const QString& name, std::function<void()> handler);
+    bool IsCommandEnabled(const QString& name) const;
+    // The commands on an entry go off when a filter list runs empty and
+    // come back when there is an entry again.
+    void EnableEntryCommands();
+    void DisableEntryCommands();
+    // mnu_stat: statistics need at least two entries in the full list.
+    void StatisticsClick(const std::function<void()>& openStatistics);
 
     // Fills the full list from the collection (session.SharedRecordset, or
     // all of HEFTLIST when none is open), with caption, status texts and
@@ -46,10 +65,23 @@ Q_SIGNALS:
     // Right mouse button on an entry; the entry is the current row.
     void PopupRequested(const QPoint& globalPos);
 
+protected:
+    // Saves the placement into the log and closes the files; every change
+    // was written when it was made, so nothing is asked.
+    void closeEvent(QCloseEvent* event) override;
+
 private:
     EntryGridView* AddGridView(EntryGrid& grid, const QString& name);
+    void SetupCommands();
+    void EnableCommands();
+    void CheckDetailsTable();
+    void DeleteClick();
+    void StatusPanelClick(int panel);
+    void RestoreWindowPlacement();
+    void SaveWindowPlacement();
 
     EntryList m_list;
+    MainCommands* m_commands = nullptr;
     EntryGridView* m_heftliste = nullptr;
     EntryGridView* m_filter = nullptr;
     StatusBar* m_status = nullptr;
@@ -57,6 +89,7 @@ private:
     QTimer* m_selectionTimer = nullptr;
     Session* m_session = nullptr;
     bool m_progressCursor = false;
+    bool m_detailsTableReadable = true;
 };
 
 } // namespace heft

@@ -21,7 +21,7 @@ namespace {
 
 QList<TestEntry> Entries(int count)
 {
-    static const QStringList authors{u"Kurt Brand"_s, u"Ernst Vlcek"_s, u"Hanns Kneifel"_s, u"Clark Darlton"_s};
+    static const QStringList authors{u"Konrad Velten"_s, u"Egon Valtin"_s, u"Hella Kornmann"_s, u"Claas Dorwig"_s};
     static const QStringList cycles{u"I"_s, u"II"_s, u"IV"_s, u"- - -"_s, u"XII"_s};
     QList<TestEntry> entries;
     for (int nr = 1; nr <= count; ++nr)
