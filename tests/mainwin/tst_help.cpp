@@ -1,0 +1,173 @@
+#include "testmain.h"
+
+#include "mainwin/helpwindow.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTextBlock>
+#include <QTextBrowser>
+#include <QUrl>
+
+using namespace Qt::StringLiterals;
+using namespace heft;
+
+namespace {
+
+const QString Manual = QStringLiteral(HEFTARIUM_DATA_SOURCES) + u"/help"_s;
+
+QStringList Pages()
+{
+    return QDir(Manual).entryList({u"*.html"_s}, QDir::Files, QDir::Name);
+}
+
+// Every link target of the shown page, in document order.
+QStringList Links(const QTextDocument& document)
+{
+    QStringList links;
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        for (auto it = block.begin(); !it.atEnd(); ++it) {
+            const QString href = it.fragment().charFormat().anchorHref();
+            if (!href.isEmpty())
+                links << href;
+        }
+    }
+    return links;
+}
+
+// Where the first link to target is shown, in the browser's viewport.
+QPoint LinkPosition(QTextBrowser* browser, const QString& target)
+{
+    const QTextDocument* document = browser->document();
+    for (QTextBlock block = document->begin(); block.isValid(); block = block.next()) {
+        for (auto it = block.begin(); !it.atEnd(); ++it) {
+            if (it.fragment().charFormat().anchorHref() == target) {
+                QTextCursor cursor(browser->document());
+                cursor.setPosition(it.fragment().position() + 1);
+                return browser->cursorRect(cursor).center();
+            }
+        }
+    }
+    return {-1, -1};
+}
+
+QString ShownPage(const QTextBrowser* browser)
+{
+    return browser->source().fileName();
+}
+
+} // namespace
+
+class TestHelp : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void findHelpFolder_data()
+    {
+        QTest::addColumn<QStringList>("indexPages"); // index pages laid out below the root
+        QTest::addColumn<QString>("found");          // relative to the root; empty: none
+        QTest::newRow("beside the program") << QStringList{u"bin/help/index.html"_s} << u"bin/help"_s;
+        QTest::newRow("installed") << QStringList{u"share/Quintara/Heftarium/help/index.html"_s}
+                                   << u"share/Quintara/Heftarium/help"_s;
+        QTest::newRow("the build tree comes first")
+            << QStringList{u"bin/help/index.html"_s, u"share/Quintara/Heftarium/help/index.html"_s} << u"bin/help"_s;
+        QTest::newRow("folder without its index page") << QStringList{u"bin/help/liste.html"_s} << QString();
+        QTest::newRow("no manual") << QStringList{} << QString();
+    }
+    void findHelpFolder()
+    {
+        QFETCH(QStringList, indexPages);
+        QFETCH(QString, found);
+        QTemporaryDir root;
+        QDir(root.path()).mkpath(u"bin"_s);
+        for (const QString& page : indexPages) {
+            QDir(root.path()).mkpath(QFileInfo(page).path());
+            QFile file(root.filePath(page));
+            QVERIFY(file.open(QIODevice::WriteOnly));
+        }
+        QCOMPARE(FindHelpFolder(root.filePath(u"bin"_s)), found.isEmpty() ? QString() : root.filePath(found));
+    }
+
+    void browsing()
+    {
+        HelpWindow window(Manual);
+        window.ShowPage(u"index.html"_s);
+        window.resize(760, 640);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        QCOMPARE(window.objectName(), u"frm_help"_s);
+        QCOMPARE(window.windowTitle(), u"Heftarium Hilfe"_s);
+        QTextBrowser* browser = window.Browser();
+        QCOMPARE(ShownPage(browser), u"index.html"_s);
+        auto* back = window.findChild<QAction*>(u"btn_back"_s);
+        auto* forward = window.findChild<QAction*>(u"btn_forward"_s);
+        auto* home = window.findChild<QAction*>(u"btn_home"_s);
+        QVERIFY(!back->isEnabled() && !forward->isEnabled());
+
+        const QPoint link = LinkPosition(browser, u"bearbeiten.html"_s);
+        QVERIFY(browser->viewport()->rect().contains(link));
+        QTest::mouseClick(browser->viewport(), Qt::LeftButton, {}, link);
+        QCOMPARE(ShownPage(browser), u"bearbeiten.html"_s);
+        QVERIFY(browser->toPlainText().contains(u"*** Unbekannt ***"_s));
+        QVERIFY(back->isEnabled());
+
+        back->trigger();
+        QCOMPARE(ShownPage(browser), u"index.html"_s);
+        QVERIFY(forward->isEnabled());
+        forward->trigger();
+        QCOMPARE(ShownPage(browser), u"bearbeiten.html"_s);
+        home->trigger();
+        QCOMPARE(ShownPage(browser), u"index.html"_s);
+    }
+
+    void showHelpReusesTheOpenWindow()
+    {
+        auto* window = new HelpWindow(Manual);
+        window->ShowPage(u"index.html"_s);
+        window->show();
+        ShowHelp(nullptr, u"suchen.html"_s);
+        QCOMPARE(ShownPage(window->Browser()), u"suchen.html"_s);
+        int helpWindows = 0;
+        for (const QWidget* widget : QApplication::topLevelWidgets())
+            helpWindows += qobject_cast<const HelpWindow*>(widget) != nullptr ? 1 : 0;
+        QCOMPARE(helpWindows, 1);
+        window->close(); // deletes itself
+    }
+
+    void pages_data()
+    {
+        QTest::addColumn<QString>("page");
+        for (const QString& page : Pages())
+            QTest::newRow(qPrintable(page)) << page;
+    }
+    // Each page renders with its title, reaches every other page through
+    // its navigation bar, and has no link that leads nowhere. The pictures
+    // in /tmp are for the eye.
+    void pages()
+    {
+        QFETCH(QString, page);
+        HelpWindow window(Manual);
+        window.resize(760, 640);
+        window.ShowPage(page);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        const QTextDocument& document = *window.Browser()->document();
+        QVERIFY(document.metaInformation(QTextDocument::DocumentTitle).startsWith(u"Heftarium – "_s));
+        QVERIFY(!document.toPlainText().trimmed().isEmpty());
+
+        const QStringList links = Links(document);
+        for (const QString& other : Pages()) {
+            if (other != page)
+                QVERIFY2(links.contains(other), qPrintable(other));
+        }
+        for (const QString& link : links)
+            QVERIFY2(QFileInfo::exists(QDir(Manual).filePath(QUrl(link).path())), qPrintable(link));
+        window.grab().save(u"/tmp/help_%1.png"_s.arg(QFileInfo(page).baseName()));
+    }
+};
+
+HEFT_TEST(TestHelp)
+#include "tst_help.moc"
