@@ -34,6 +34,8 @@ void SetLinkHighlight(QWidget* link, bool on)
 
 } // namespace
 
+// On top of the others: at start the main window appears while the splash is
+// still meant to be seen over it.
 SplashWindow::SplashWindow(Session& session, QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint),
       m_ui(std::make_unique<Ui::SplashWindow>()), m_session(session)
