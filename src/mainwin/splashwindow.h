@@ -2,9 +2,9 @@
 // frm_Splash: the program's name, version and the collection's splash image.
 // It serves twice with the same face: at start it is shown without waiting
 // (show, let events run, fill the list, close), and it is the about window
-// when run modal (exec). Any key, or a click
-// on the image or a plain label, closes it; the two link labels open the
-// maker's web page or a mail to him and close it as well.
+// when run modal (exec). Any key, or a click on the image or a plain label,
+// closes it; the two link labels open the maker's web page or a mail to him
+// and close it as well.
 
 #include <QDialog>
 
