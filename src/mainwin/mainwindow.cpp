@@ -93,6 +93,9 @@ void MainWindow::LoadList(Session& session)
         session.SharedRecordset = session.CollectionDb->Select(u"SELECT * FROM HEFTLIST ORDER BY Nr;"_s);
     StartProgress(count);
     show();
+    // The grids take their final width now, so that the last column can
+    // be given the rest of it.
+    layout()->activate();
     SetStatusPanel(5, u"Lese Einträge aus der Datenbank ..."_s);
     SetStatusPanel(3, u"1/%1"_s.arg(count));
     m_list.SetupGridColumns();

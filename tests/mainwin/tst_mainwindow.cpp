@@ -176,10 +176,9 @@ private Q_SLOTS:
         collection.Add(Entries(2500));
         collection.session.CollectionDb->EndBulk();
         MainWindow window;
-        window.resize(1000, 640);
-        window.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&window));
         window.LoadList(collection.session);
+        window.resize(1000, 640);
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
         window.List().FindAndShowRow(1234);
         QTest::qWait(50);
         auto* view = window.findChild<QTableView*>(u"fg_heftliste"_s);
