@@ -24,15 +24,20 @@ QStringList Pages()
     return QDir(Manual).entryList({u"*.html"_s}, QDir::Files, QDir::Name);
 }
 
-// Every link target of the shown page, in document order.
-QStringList Links(const QTextDocument& document)
+struct Link {
+    QString href;
+    int position; // in the document
+};
+
+// Every link of the shown page, in document order.
+QList<Link> Links(const QTextDocument& document)
 {
-    QStringList links;
+    QList<Link> links;
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
         for (auto it = block.begin(); !it.atEnd(); ++it) {
             const QString href = it.fragment().charFormat().anchorHref();
             if (!href.isEmpty())
-                links << href;
+                links.append({href, it.fragment().position()});
         }
     }
     return links;
@@ -41,14 +46,11 @@ QStringList Links(const QTextDocument& document)
 // Where the first link to target is shown, in the browser's viewport.
 QPoint LinkPosition(QTextBrowser* browser, const QString& target)
 {
-    const QTextDocument* document = browser->document();
-    for (QTextBlock block = document->begin(); block.isValid(); block = block.next()) {
-        for (auto it = block.begin(); !it.atEnd(); ++it) {
-            if (it.fragment().charFormat().anchorHref() == target) {
-                QTextCursor cursor(browser->document());
-                cursor.setPosition(it.fragment().position() + 1);
-                return browser->cursorRect(cursor).center();
-            }
+    for (const Link& link : Links(*browser->document())) {
+        if (link.href == target) {
+            QTextCursor cursor(browser->document());
+            cursor.setPosition(link.position + 1);
+            return browser->cursorRect(cursor).center();
         }
     }
     return {-1, -1};
@@ -158,13 +160,15 @@ private Q_SLOTS:
         QVERIFY(document.metaInformation(QTextDocument::DocumentTitle).startsWith(u"Heftarium – "_s));
         QVERIFY(!document.toPlainText().trimmed().isEmpty());
 
-        const QStringList links = Links(document);
+        QStringList targets;
+        for (const Link& link : Links(document))
+            targets << link.href;
         for (const QString& other : Pages()) {
             if (other != page)
-                QVERIFY2(links.contains(other), qPrintable(other));
+                QVERIFY2(targets.contains(other), qPrintable(other));
         }
-        for (const QString& link : links)
-            QVERIFY2(QFileInfo::exists(QDir(Manual).filePath(QUrl(link).path())), qPrintable(link));
+        for (const QString& target : targets)
+            QVERIFY2(QFileInfo::exists(QDir(Manual).filePath(QUrl(target).path())), qPrintable(target));
         window.grab().save(u"/tmp/help_%1.png"_s.arg(QFileInfo(page).baseName()));
     }
 };
