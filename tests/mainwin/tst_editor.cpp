@@ -1,0 +1,497 @@
+#include "listfixture.h"
+#include "testmain.h"
+
+#include "mainwin/editdialog.h"
+#include "mainwin/entryeditor.h"
+#include "mainwin/mainwindow.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRegularExpression>
+#include <QTest>
+#include <QTimer>
+
+#include <functional>
+
+using namespace Qt::StringLiterals;
+using namespace heft;
+using namespace heft::test;
+
+namespace {
+
+// Steps for the modal editor dialogs to come, one step per dialog that
+// opens, in order. A step that does not close its dialog leaves it to the
+// test to notice (EditEntry would not return).
+class EditDialogScript {
+public:
+    EditDialogScript()
+    {
+        m_timer.setInterval(5);
+        QObject::connect(&m_timer, &QTimer::timeout, [this] { Poll(); });
+        m_timer.start();
+    }
+    void Then(std::function<void(QDialog&)> step) { m_steps.append(std::move(step)); }
+    qsizetype Pending() const { return m_steps.size(); }
+
+private:
+    void Poll()
+    {
+        auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        if (!dialog || dialog->objectName() != u"frm_edit"_s || dialog->property("scripted").toBool() || m_steps.isEmpty())
+            return;
+        dialog->setProperty("scripted", true);
+        m_steps.takeFirst()(*dialog);
+    }
+    QTimer m_timer;
+    QList<std::function<void(QDialog&)>> m_steps;
+};
+
+QLineEdit* Box(QDialog& dialog, const QString& name)
+{
+    if (name == u"cmb_autorlist"_s)
+        return dialog.findChild<QComboBox*>(name)->lineEdit();
+    return dialog.findChild<QLineEdit*>(name);
+}
+
+// Types into a box as the user would after tabbing into it: the old text is
+// selected and goes.
+void Type(QDialog& dialog, const QString& name, const QString& text)
+{
+    QLineEdit* box = Box(dialog, name);
+    box->selectAll();
+    if (text.isEmpty())
+        box->del();
+    QTest::keyClicks(box, text);
+}
+
+void Press(QDialog& dialog, const QString& button)
+{
+    dialog.findChild<QPushButton*>(button)->click();
+}
+
+// Every table that hangs on an entry, with one row each for nr.
+void AddDependents(TempCollection& collection, int nr, const QString& mark)
+{
+    collection.Exec(u"INSERT INTO Details (Nr, Untertitel) VALUES (%1, '%2');"_s.arg(nr).arg(mark));
+    collection.Exec(u"INSERT INTO Gestaltung (Nr, TiBiZeichner) VALUES (%1, '%2');"_s.arg(nr).arg(mark));
+    collection.Exec(u"INSERT INTO Status (Nr, ENum, StatusWert) VALUES (%1, 7, '%2');"_s.arg(nr).arg(mark));
+    collection.Exec(u"INSERT INTO Links (Nr, ENum, LinkNum, LinkText, LinkSerie) VALUES (%1, 1, 3, '%2', 'VN');"_s
+                        .arg(nr)
+                        .arg(mark));
+}
+
+// The marks of the dependent rows of nr, table by table ("" where none).
+QStringList Dependents(TempCollection& collection, int nr)
+{
+    return {collection.Value(u"SELECT Untertitel FROM Details WHERE Nr=%1;"_s.arg(nr)).toString(),
+            collection.Value(u"SELECT TiBiZeichner FROM Gestaltung WHERE Nr=%1;"_s.arg(nr)).toString(),
+            collection.Value(u"SELECT StatusWert FROM Status WHERE Nr=%1 AND ENum=7;"_s.arg(nr)).toString(),
+            collection.Value(u"SELECT LinkText FROM Links WHERE Nr=%1;"_s.arg(nr)).toString()};
+}
+
+QList<TestEntry> Numbered(const QList<int>& numbers)
+{
+    QList<TestEntry> entries;
+    for (int nr : numbers)
+        entries.append({nr, u"Autor %1"_s.arg(nr), u"Titel %1"_s.arg(nr), nr % 3, u"IV"_s, nr % 2 == 0,
+                        u"Bem %1"_s.arg(nr)});
+    return entries;
+}
+
+struct Editor {
+    explicit Editor(const QList<int>& numbers)
+    {
+        collection.Add(Numbered(numbers));
+        window.LoadList(collection.session);
+    }
+    // Runs the command as the main window does, on the entry nr.
+    void Run(int nr, bool editing)
+    {
+        QVERIFY(window.List().FindAndShowRow(nr) > 0);
+        collection.session.EditMode = editing;
+        collection.session.EditRetry = false;
+        EditEntry(window);
+    }
+    QString Stored(const QString& column, int nr)
+    {
+        return collection.Value(u"SELECT %1 FROM HEFTLIST WHERE Nr=%2;"_s.arg(column).arg(nr)).toString();
+    }
+    const EntryGrid& Full() { return window.List().Heftliste; }
+    QString Current(int col) { return Full().TextMatrix(Full().Row(), col); }
+
+    TempCollection collection;
+    MainWindow window;
+};
+
+} // namespace
+
+class TestEditor : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void editTitle()
+    {
+        Editor editor({1, 2, 3, 4, 5});
+        EditDialogScript script;
+        QString caption, shownNr, shownTitle, shownAutor, shownAuflage, shownGelesen;
+        bool detailsShown = false;
+        bool detailsEnabled = true;
+        script.Then([&](QDialog& dialog) {
+            caption = dialog.windowTitle();
+            shownNr = Box(dialog, u"txt_nr"_s)->text();
+            shownTitle = Box(dialog, u"txt_titel"_s)->text();
+            shownAutor = Box(dialog, u"cmb_autorlist"_s)->text();
+            shownAuflage = dialog.findChild<QComboBox*>(u"cmb_aufl"_s)->currentText();
+            shownGelesen = dialog.findChild<QComboBox*>(u"cmb_gl"_s)->currentText();
+            detailsShown = !dialog.findChild<QPushButton*>(u"btn_details"_s)->isHidden();
+            detailsEnabled = dialog.findChild<QPushButton*>(u"btn_details"_s)->isEnabled();
+            Type(dialog, u"txt_titel"_s, u"Im Schatten von O'Taran"_s);
+            Press(dialog, u"cmd_ok"_s);
+        });
+        editor.Run(4, true);
+
+        QCOMPARE(script.Pending(), 0);
+        QCOMPARE(caption, u"Eintrag Editieren ..."_s);
+        QCOMPARE(shownNr, u"4"_s);
+        QCOMPARE(shownTitle, u"Titel 4"_s);
+        QCOMPARE(shownAutor, u"Autor 4"_s);
+        QCOMPARE(shownAuflage, u"-1-"_s);
+        QCOMPARE(shownGelesen, u"Ja"_s);
+        QVERIFY(detailsShown);
+        QCOMPARE(detailsEnabled, editor.window.IsCommandEnabled(u"mnu_detail"_s));
+
+        // A plain change asks nothing: the insert met its own row.
+        QVERIFY(editor.collection.prompter.asked.isEmpty());
+        QCOMPARE(editor.Stored(u"Titel"_s, 4), u"Im Schatten von O'Taran"_s);
+        QCOMPARE(editor.Stored(u"Autor"_s, 4), u"Autor 4"_s);
+        QCOMPARE(editor.Stored(u"GL"_s, 4), u"-1"_s);
+        QCOMPARE(editor.collection.Value(u"SELECT COUNT(*) FROM HEFTLIST;"_s).toInt(), 5);
+        QCOMPARE(editor.Current(ColNr), u"4"_s);
+        QCOMPARE(editor.Current(ColTitel), u"Im Schatten von O'Taran"_s);
+        QCOMPARE(editor.Current(ColGelesen), ReadMarkText());
+        const QString stamp = editor.collection.Value(u"SELECT StatusWert FROM Status WHERE Nr=4 AND ENum=1;"_s).toString();
+        QVERIFY2(QRegularExpression(u"^\\d{4}-\\d\\d-\\d\\d um \\d\\d:\\d\\d:\\d\\d$"_s).match(stamp).hasMatch(),
+                 qPrintable(stamp));
+    }
+
+    void renumberToFreeNumber()
+    {
+        Editor editor({1, 2, 3, 5, 10});
+        AddDependents(editor.collection, 2, u"zwei"_s);
+        EditDialogScript script;
+        script.Then([](QDialog& dialog) {
+            Type(dialog, u"txt_nr"_s, u"7"_s);
+            Press(dialog, u"cmd_ok"_s);
+        });
+        editor.Run(2, true);
+
+        QVERIFY(editor.collection.prompter.asked.isEmpty());
+        QCOMPARE(editor.Stored(u"Titel"_s, 7), u"Titel 2"_s);
+        QCOMPARE(editor.collection.Value(u"SELECT COUNT(*) FROM HEFTLIST WHERE Nr=2;"_s).toInt(), 0);
+        QCOMPARE(Dependents(editor.collection, 7), QStringList({u"zwei"_s, u"zwei"_s, u"zwei"_s, u"zwei"_s}));
+        QCOMPARE(Dependents(editor.collection, 2), QStringList({{}, {}, {}, {}}));
+        QCOMPARE(NrColumn(editor.Full()), QStringList({u"1"_s, u"3"_s, u"5"_s, u"7"_s, u"10"_s}));
+        QCOMPARE(editor.Current(ColNr), u"7"_s);
+        QCOMPARE(editor.Current(ColTitel), u"Titel 2"_s);
+        QCOMPARE(editor.Current(ColBemerkung), u"Bem 2"_s);
+    }
+
+    void renumberOntoTakenNumberYes()
+    {
+        Editor editor({1, 2, 3, 4, 5});
+        AddDependents(editor.collection, 2, u"zwei"_s);
+        AddDependents(editor.collection, 4, u"vier"_s);
+        editor.collection.prompter.answers = {Answer::Yes};
+        EditDialogScript script;
+        script.Then([](QDialog& dialog) {
+            Type(dialog, u"txt_nr"_s, u"4"_s);
+            Press(dialog, u"cmd_ok"_s);
+        });
+        editor.Run(2, true);
+
+        QCOMPARE(editor.collection.prompter.asked.size(), 1);
+        QCOMPARE(editor.collection.prompter.asked[0].title, u"Vorhandenen Eintrag überschreiben"_s);
+        QCOMPARE(editor.collection.Value(u"SELECT COUNT(*) FROM HEFTLIST WHERE Nr=2;"_s).toInt(), 0);
+        QCOMPARE(editor.Stored(u"Titel"_s, 4), u"Titel 2"_s);
+        QCOMPARE(editor.Stored(u"Bemerkung"_s, 4), u"Bem 2"_s);
+        // The overwritten entry's own rows are gone, the edited entry's moved.
+        QCOMPARE(Dependents(editor.collection, 4), QStringList({u"zwei"_s, u"zwei"_s, u"zwei"_s, u"zwei"_s}));
+        QCOMPARE(editor.collection.Value(u"SELECT COUNT(*) FROM Details WHERE Nr=4;"_s).toInt(), 1);
+        QCOMPARE(editor.collection.Value(u"SELECT COUNT(*) FROM Status WHERE Nr=4 AND ENum=7;"_s).toInt(), 1);
+        QCOMPARE(NrColumn(editor.Full()), QStringList({u"1"_s, u"3"_s, u"4"_s, u"5"_s}));
+        QCOMPARE(editor.Current(ColNr), u"4"_s);
+        QCOMPARE(editor.Current(ColTitel), u"Titel 2"_s);
+    }
+
+    // A declined overwrite brings the dialog back with what was typed; the
+    // number is offered anew (the old one for a change, the next free one
+    // for a new entry).
+    void declinedOverwriteRetries_data()
+    {
+        QTest::addColumn<bool>("editing");
+        QTest::addColumn<QString>("offeredNr");
+        QTest::newRow("renumbering") << true << u"2"_s;
+        QTest::newRow("new entry") << false << u"6"_s;
+    }
+    void declinedOverwriteRetries()
+    {
+        QFETCH(bool, editing);
+        QFETCH(QString, offeredNr);
+        Editor editor({1, 2, 3, 4, 5});
+        editor.collection.prompter.answers = {Answer::No};
+        EditDialogScript script;
+        script.Then([](QDialog& dialog) {
+            Type(dialog, u"txt_nr"_s, u"4"_s);
+            Type(dialog, u"txt_titel"_s, u"Gefahr aus dem All"_s);
+            Type(dialog, u"cmb_autorlist"_s, u"K. O'Brien"_s);
+            Type(dialog, u"txt_zyklus"_s, u"xii"_s);
+            dialog.findChild<QComboBox*>(u"cmb_aufl"_s)->setCurrentIndex(3);
+            Press(dialog, u"cmd_ok"_s);
+        });
+        QStringList shown;
+        script.Then([&](QDialog& dialog) {
+            for (const QString& name : {u"txt_nr"_s, u"txt_titel"_s, u"cmb_autorlist"_s, u"txt_zyklus"_s})
+                shown << Box(dialog, name)->text();
+            shown << dialog.findChild<QComboBox*>(u"cmb_aufl"_s)->currentText();
+            Press(dialog, u"cmd_nok"_s);
+        });
+        editor.Run(editing ? 2 : 5, editing);
+
+        QCOMPARE(script.Pending(), 0);
+        QCOMPARE(shown, QStringList({offeredNr, u"Gefahr aus dem All"_s, u"K. O'Brien"_s, u"XII"_s, u"-3-"_s}));
+        QCOMPARE(editor.collection.prompter.asked.size(), 1);
+        QCOMPARE(editor.Stored(u"Titel"_s, 4), u"Titel 4"_s);
+        QCOMPARE(editor.Stored(u"Titel"_s, 2), u"Titel 2"_s);
+        QCOMPARE(editor.collection.Value(u"SELECT COUNT(*) FROM HEFTLIST;"_s).toInt(), 5);
+        QCOMPARE(editor.Full().Rows(), 6);
+    }
+
+    void insertAfterLastRow()
+    {
+        Editor editor({1, 2, 4, 5});
+        EditDialogScript script;
+        QString caption, shownNr, shownTitle, shownAutor;
+        script.Then([&](QDialog& dialog) {
+            caption = dialog.windowTitle();
+            shownNr = Box(dialog, u"txt_nr"_s)->text();
+            shownTitle = Box(dialog, u"txt_titel"_s)->text();
+            shownAutor = Box(dialog, u"cmb_autorlist"_s)->text();
+            QVERIFY(dialog.findChild<QPushButton*>(u"btn_details"_s)->isHidden());
+            Type(dialog, u"txt_titel"_s, u"Neuland"_s);
+            Press(dialog, u"cmd_ok"_s);
+        });
+        editor.Run(5, false);
+
+        QCOMPARE(caption, u"Eintrag Einfügen ..."_s);
+        QCOMPARE(shownNr, u"6"_s);
+        QCOMPARE(shownTitle, u"- Kein Titel -"_s);
+        QCOMPARE(shownAutor, u"Autor 5"_s);
+        QCOMPARE(editor.Stored(u"Titel"_s, 6), u"Neuland"_s);
+        // A new entry starts as a copy of the selected one.
+        QCOMPARE(editor.Stored(u"Autor"_s, 6), u"Autor 5"_s);
+        QCOMPARE(editor.Stored(u"Bemerkung"_s, 6), u"Bem 5"_s);
+        QCOMPARE(NrColumn(editor.Full()), QStringList({u"1"_s, u"2"_s, u"4"_s, u"5"_s, u"6"_s}));
+        QCOMPARE(editor.Current(ColNr), u"6"_s);
+        QCOMPARE(editor.window.List().HighestNr, 6);
+        QVERIFY(!editor.collection.Value(u"SELECT StatusWert FROM Status WHERE Nr=6 AND ENum=1;"_s).isNull());
+    }
+
+    void nextFreeNr_data()
+    {
+        QTest::addColumn<int>("selected");
+        QTest::addColumn<int>("expected");
+        QTest::newRow("gap right behind") << 3 << 4;
+        QTest::newRow("gap further on") << 1 << 4;
+        QTest::newRow("the gap behind, not the one before") << 5 << 7;
+        QTest::newRow("far number behind") << 9 << 10;
+        QTest::newRow("highest possible") << 99999 << 99999;
+    }
+    void nextFreeNr()
+    {
+        QFETCH(int, selected);
+        QFETCH(int, expected);
+        Editor editor({1, 2, 3, 5, 6, 9, 99999});
+        editor.window.List().FindAndShowRow(selected);
+        QCOMPARE(NextFreeNr(editor.window), expected);
+        QCOMPARE(editor.window.StatusPanelText(5), u"Fertig und Bereit."_s);
+    }
+
+    // cmd_ok's checks: what the box shows after a refused press, and what is
+    // stored once a press is taken (pressesToAccept 0: never).
+    void okChecks_data()
+    {
+        QTest::addColumn<QString>("box");
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<int>("pressesToAccept");
+        QTest::addColumn<QString>("shownAfterRefusal");
+        QTest::addColumn<QString>("column");
+        QTest::addColumn<QString>("stored");
+        QTest::newRow("empty title") << u"txt_titel"_s << u""_s << 2 << u"*** Unbekannt ***"_s << u"Titel"_s
+                                     << u"*** Unbekannt ***"_s;
+        QTest::newRow("blank author") << u"cmb_autorlist"_s << u"   "_s << 2 << u"*** Unbekannt ***"_s << u"Autor"_s
+                                      << u"*** Unbekannt ***"_s;
+        QTest::newRow("long author cut") << u"cmb_autorlist"_s << u"Hans Joachim Alpers-Brandhorst"_s << 1 << u""_s
+                                         << u"Autor"_s << u"Hans Joachim Alpers-Brand"_s;
+        QTest::newRow("cycle in small letters") << u"txt_zyklus"_s << u"xii"_s << 1 << u""_s << u"Zyklus"_s << u"XII"_s;
+        QTest::newRow("cycle as number") << u"txt_zyklus"_s << u"12"_s << 1 << u""_s << u"Zyklus"_s << u"XII"_s;
+        QTest::newRow("cycle too high") << u"txt_zyklus"_s << u"1000"_s << 2 << u"- - -"_s << u"Zyklus"_s << u"- - -"_s;
+        QTest::newRow("no cycle") << u"txt_zyklus"_s << u""_s << 1 << u""_s << u"Zyklus"_s << u"- - -"_s;
+        QTest::newRow("cycle mixed") << u"txt_zyklus"_s << u"1x"_s << 0 << u"1x"_s << u"Zyklus"_s << u"IV"_s;
+        QTest::newRow("number zero") << u"txt_nr"_s << u"0"_s << 0 << u"0"_s << u"Titel"_s << u"Titel 1"_s;
+        QTest::newRow("number empty") << u"txt_nr"_s << u""_s << 0 << u""_s << u"Titel"_s << u"Titel 1"_s;
+        QTest::newRow("remark trimmed") << u"txt_bem"_s << u"  signiert  "_s << 1 << u""_s << u"Bemerkung"_s
+                                        << u"signiert"_s;
+    }
+    void okChecks()
+    {
+        QFETCH(QString, box);
+        QFETCH(QString, typed);
+        QFETCH(int, pressesToAccept);
+        QFETCH(QString, shownAfterRefusal);
+        QFETCH(QString, column);
+        QFETCH(QString, stored);
+        Editor editor({1});
+        EditDialogScript script;
+        int presses = 0;
+        QString shown;
+        bool refusedBoxHasFocus = false;
+        script.Then([&](QDialog& dialog) {
+            QLineEdit* edit = Box(dialog, box);
+            edit->setText(typed);
+            for (presses = 1; presses <= 2; ++presses) {
+                Press(dialog, u"cmd_ok"_s);
+                if (!dialog.isVisible())
+                    return;
+                shown = edit->text();
+                // The author's box hands its focus on to the combo box around it.
+                refusedBoxHasFocus = dialog.focusWidget() == (edit->focusProxy() ? edit->focusProxy() : edit);
+            }
+            Press(dialog, u"cmd_nok"_s);
+            presses = 0;
+        });
+        editor.Run(1, true);
+
+        QCOMPARE(presses, pressesToAccept);
+        if (pressesToAccept != 1) {
+            QCOMPARE(shown, shownAfterRefusal);
+            QVERIFY(refusedBoxHasFocus);
+        }
+        QCOMPARE(editor.collection.session.EditAccepted, pressesToAccept > 0);
+        QCOMPARE(editor.Stored(column, 1), stored);
+    }
+
+    void keys_data()
+    {
+        QTest::addColumn<QString>("box");
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("shown");
+        QTest::newRow("number takes digits only") << u"txt_nr"_s << u"1a2-3 4"_s << u"1234"_s;
+        QTest::newRow("number stops at five") << u"txt_nr"_s << u"1234567"_s << u"12345"_s;
+        QTest::newRow("cycle takes roman letters") << u"txt_zyklus"_s << u"x1y.iVq'"_s << u"x1iV"_s;
+        QTest::newRow("cycle stops at eight") << u"txt_zyklus"_s << u"MMMDCCCLXXX"_s << u"MMMDCCCL"_s;
+        QTest::newRow("title takes anything") << u"txt_titel"_s << u"Wer? 'Ich' (2.)"_s << u"Wer? 'Ich' (2.)"_s;
+    }
+    void keys()
+    {
+        QFETCH(QString, box);
+        QFETCH(QString, typed);
+        QFETCH(QString, shown);
+        Editor editor({1});
+        editor.collection.session.EditMode = true;
+        EditDialog dialog(editor.window);
+        dialog.show();
+        Type(dialog, box, typed);
+        QCOMPARE(Box(dialog, box)->text(), shown);
+        QTest::keyClick(Box(dialog, box), Qt::Key_Backspace);
+        QCOMPARE(Box(dialog, box)->text(), shown.chopped(1));
+    }
+
+    // Enter in a box does nothing; Esc discards.
+    void enterAndEscape()
+    {
+        Editor editor({1});
+        EditDialogScript script;
+        bool openAfterEnter = false;
+        script.Then([&](QDialog& dialog) {
+            Type(dialog, u"txt_titel"_s, u"Verworfen"_s);
+            QTest::keyClick(Box(dialog, u"txt_titel"_s), Qt::Key_Return);
+            openAfterEnter = dialog.isVisible();
+            QTest::keyClick(Box(dialog, u"txt_titel"_s), Qt::Key_Escape);
+        });
+        editor.Run(1, true);
+        QVERIFY(openAfterEnter);
+        QVERIFY(!editor.collection.session.EditAccepted);
+        QCOMPARE(editor.Stored(u"Titel"_s, 1), u"Titel 1"_s);
+        QVERIFY(editor.collection.Value(u"SELECT StatusWert FROM Status WHERE Nr=1 AND ENum=1;"_s).isNull());
+    }
+
+    // A change in the filter list is carried over to the full list.
+    void filterListMirrorsIntoFullList_data()
+    {
+        QTest::addColumn<QString>("newNr");
+        QTest::addColumn<QStringList>("full");
+        QTest::addColumn<QStringList>("filter");
+        QTest::newRow("same number") << u"4"_s << QStringList({u"1"_s, u"2"_s, u"3"_s, u"4"_s, u"5"_s})
+                                     << QStringList({u"2"_s, u"4"_s});
+        QTest::newRow("renumbered") << u"7"_s << QStringList({u"1"_s, u"2"_s, u"3"_s, u"5"_s, u"7"_s})
+                                    << QStringList({u"2"_s, u"7"_s});
+    }
+    void filterListMirrorsIntoFullList()
+    {
+        QFETCH(QString, newNr);
+        QFETCH(QStringList, full);
+        QFETCH(QStringList, filter);
+        Editor editor({1, 2, 3, 4, 5});
+        Session& session = editor.collection.session;
+        EntryList& list = editor.window.List();
+        session.SharedRecordset = session.CollectionDb->Select(u"SELECT * FROM HEFTLIST WHERE Nr IN (2, 4) ORDER BY Nr;"_s);
+        list.ActiveGrid = &list.Filter;
+        list.SetupGridColumns();
+        list.FillGrid(session);
+        list.ShowFilterGrid(true);
+
+        EditDialogScript script;
+        script.Then([&](QDialog& dialog) {
+            Type(dialog, u"txt_nr"_s, newNr);
+            Type(dialog, u"txt_titel"_s, u"Gefiltert"_s);
+            dialog.findChild<QComboBox*>(u"cmb_gl"_s)->setCurrentIndex(1);
+            Press(dialog, u"cmd_ok"_s);
+        });
+        editor.Run(4, true);
+
+        QCOMPARE(list.ActiveGrid, &list.Filter);
+        QCOMPARE(NrColumn(list.Filter), filter);
+        QCOMPARE(NrColumn(list.Heftliste), full);
+        const int row = list.Heftliste.Model().FindNr(newNr.toInt()) + 1;
+        for (const EntryGrid* grid : {&list.Filter, &list.Heftliste}) {
+            const int at = grid == &list.Filter ? grid->Row() : row;
+            QCOMPARE(grid->TextMatrix(at, ColNr), newNr);
+            QCOMPARE(grid->TextMatrix(at, ColTitel), u"Gefiltert"_s);
+            QCOMPARE(grid->TextMatrix(at, ColGelesen), QString());
+            QCOMPARE(grid->TextMatrix(at, ColBemerkung), u"Bem 4"_s);
+        }
+    }
+
+    // Both captions, for the eye: /tmp/edit-editieren.png, /tmp/edit-einfuegen.png.
+    void screenshots()
+    {
+        Editor editor({1, 2, 3});
+        editor.window.List().FindAndShowRow(2);
+        for (const bool editing : {true, false}) {
+            editor.collection.session.EditMode = editing;
+            EditDialog dialog(editor.window);
+            dialog.show();
+            QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+            const QWidget* titel = Box(dialog, u"txt_titel"_s);
+            QVERIFY(titel->width() >= titel->fontMetrics().horizontalAdvance(QString(50, u'n')) * 3 / 4);
+            QVERIFY(dialog.findChild<QPushButton*>(u"cmd_ok"_s)->width() >=
+                    dialog.findChild<QPushButton*>(u"cmd_ok"_s)->sizeHint().width());
+            dialog.grab().save(editing ? u"/tmp/edit-editieren.png"_s : u"/tmp/edit-einfuegen.png"_s);
+        }
+    }
+};
+
+HEFT_TEST(TestEditor)
+#include "tst_editor.moc"

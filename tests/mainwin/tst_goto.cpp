@@ -1,0 +1,160 @@
+#include "listfixture.h"
+#include "testmain.h"
+
+#include "mainwin/gotodialog.h"
+#include "mainwin/mainwindow.h"
+
+#include <QLineEdit>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace heft;
+using namespace heft::test;
+
+namespace {
+
+QList<TestEntry> Numbered(const QList<int>& numbers)
+{
+    QList<TestEntry> entries;
+    for (int nr : numbers)
+        entries.append({nr, u"Autor"_s, u"Titel %1"_s.arg(nr)});
+    return entries;
+}
+
+QList<int> Range(int from, int to)
+{
+    QList<int> numbers;
+    for (int nr = from; nr <= to; ++nr)
+        numbers << nr;
+    return numbers;
+}
+
+void Search(GotoDialog& dialog, const QString& typed)
+{
+    auto* box = dialog.findChild<QLineEdit*>(u"txt_nr"_s);
+    box->clear();
+    QTest::keyClicks(box, typed);
+    dialog.findChild<QPushButton*>(u"OKButton"_s)->click();
+}
+
+} // namespace
+
+class TestGoto : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    // A number that can't be shown leaves the dialog open and the selection
+    // where it was.
+    void notFound_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("below the range") << u"2"_s << u"Die kleinste vorliegende\rHeftnummer lautet: 3"_s;
+        QTest::newRow("zero") << u"0"_s << u"Die kleinste vorliegende\rHeftnummer lautet: 3"_s;
+        QTest::newRow("above the range") << u"11"_s << u"Die größte vorliegende\rHeftnummer lautet: 10"_s;
+        QTest::newRow("in a gap") << u"7"_s << u"Eintrag Nummer 7 konnte\nnicht gefunden werden."_s;
+        QTest::newRow("leading zeros") << u"0007"_s << u"Eintrag Nummer 7 konnte\nnicht gefunden werden."_s;
+    }
+    void notFound()
+    {
+        QFETCH(QString, typed);
+        QFETCH(QString, text);
+        TempCollection collection;
+        collection.Add(Numbered({3, 4, 5, 8, 9, 10}));
+        MainWindow window;
+        window.LoadList(collection.session);
+        window.List().FindAndShowRow(4);
+        GotoDialog dialog(window);
+        dialog.show();
+        Search(dialog, typed);
+
+        QVERIFY(dialog.isVisible());
+        QCOMPARE(collection.prompter.asked.size(), 1);
+        const Message& message = collection.prompter.asked[0];
+        QCOMPARE(message.title, u"Negatives Suchergebnis"_s);
+        QCOMPARE(message.text, text);
+        QCOMPARE(message.icon, MessageIcon::Information);
+        QCOMPARE(message.buttons, MessageButtons::Ok);
+        QCOMPARE(window.List().Heftliste.Row(), 2);
+        QVERIFY(window.findChild<QProgressBar*>(u"pbar_load"_s)->isHidden());
+    }
+
+    void emptyTextDoesNothing()
+    {
+        TempCollection collection;
+        collection.Add(Numbered({1, 2}));
+        MainWindow window;
+        window.LoadList(collection.session);
+        GotoDialog dialog(window);
+        dialog.show();
+        Search(dialog, u""_s);
+        QVERIFY(dialog.isVisible());
+        QVERIFY(collection.prompter.asked.isEmpty());
+    }
+
+    // The found entry is selected and stands in the middle of the list; the
+    // dialog closes. Enter searches, digits only.
+    void foundInTheMiddle()
+    {
+        TempCollection collection;
+        collection.Add(Numbered(Range(1, 400)));
+        MainWindow window;
+        window.resize(900, 600);
+        window.LoadList(collection.session);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        const EntryGrid& grid = window.List().Heftliste;
+
+        GotoDialog dialog(window);
+        dialog.show();
+        auto* box = dialog.findChild<QLineEdit*>(u"txt_nr"_s);
+        QTest::keyClicks(box, u"2x5-0"_s);
+        QCOMPARE(box->text(), u"250"_s);
+        QTest::keyClick(box, Qt::Key_Return);
+
+        QVERIFY(!dialog.isVisible());
+        QCOMPARE(dialog.result(), int(QDialog::Accepted));
+        QVERIFY(collection.prompter.asked.isEmpty());
+        QCOMPARE(grid.TextMatrix(grid.Row(), ColNr), u"250"_s);
+        QCOMPARE(window.StatusPanelText(3), u"250/400"_s);
+        const int half = std::max(1, grid.VisibleRows() / 2);
+        QVERIFY(grid.VisibleRows() > 4);
+        QCOMPARE(grid.TopRow(), grid.Row() - half + 1);
+    }
+
+    void escapeCloses()
+    {
+        TempCollection collection;
+        collection.Add(Numbered({1, 2}));
+        MainWindow window;
+        window.LoadList(collection.session);
+        GotoDialog dialog(window);
+        dialog.show();
+        QTest::keyClicks(dialog.findChild<QLineEdit*>(u"txt_nr"_s), u"2"_s);
+        QTest::keyClick(dialog.findChild<QLineEdit*>(u"txt_nr"_s), Qt::Key_Escape);
+        QVERIFY(!dialog.isVisible());
+        QCOMPARE(dialog.result(), int(QDialog::Rejected));
+        QCOMPARE(window.List().Heftliste.Row(), 1);
+    }
+
+    // For the eye: /tmp/goto.png.
+    void screenshot()
+    {
+        TempCollection collection;
+        collection.Add(Numbered({1, 2}));
+        MainWindow window;
+        window.LoadList(collection.session);
+        GotoDialog dialog(window);
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+        QCOMPARE(dialog.windowTitle(), u"Suche  Nummer ..."_s);
+        QCOMPARE(dialog.findChild<QPushButton*>(u"OKButton"_s)->text(), u"&Suchen"_s);
+        QCOMPARE(dialog.findChild<QPushButton*>(u"CancelButton"_s)->text(), u"&Abbrechen"_s);
+        dialog.grab().save(u"/tmp/goto.png"_s);
+    }
+};
+
+HEFT_TEST(TestGoto)
+#include "tst_goto.moc"
