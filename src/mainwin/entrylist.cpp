@@ -38,6 +38,15 @@ EntryList::EntryList(QObject* parent) : QObject(parent)
     Filter.setParent(this);
 }
 
+int EntryList::PreferredGridWidth() const
+{
+    const double scale = WidthScale(ActiveGrid->Font());
+    int width = 2 * MinRemarkWidth;
+    for (int col = 0; col < ColBemerkung; ++col)
+        width += static_cast<int>(FixedColumnWidths[static_cast<size_t>(col)] * scale);
+    return width;
+}
+
 void EntryList::SetupGridColumns()
 {
     EntryGrid& grid = *ActiveGrid;

@@ -36,6 +36,8 @@ public:
     // Header row and column layout of ActiveGrid; the sort goes back to
     // column 0, ascending.
     void SetupGridColumns();
+    // Twips that show all columns with room for a remark.
+    int PreferredGridWidth() const;
     // Fills ActiveGrid from session.SharedRecordset (the columns of HEFTLIST
     // in their order) and closes it. expectedRows only reserves room.
     void FillGrid(Session& session, qsizetype expectedRows = 0);

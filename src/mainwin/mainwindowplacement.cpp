@@ -1,5 +1,6 @@
 // The main window's place and size: a default just wide enough for the
-// toolbar, corrected from the last run's log, and written to the log at exit.
+// toolbar and the list, corrected from the last run's log, and written to the
+// log at exit.
 
 #include "maincommands.h"
 #include "mainwindow.h"
@@ -25,7 +26,12 @@ void MainWindow::RestoreWindowPlacement()
     // Frame and border on both sides, as the window manager draws them.
     const int frame = 2 * (style()->pixelMetric(QStyle::PM_DefaultFrameWidth) + 4);
     WindowPlacement placement;
-    placement.width = PixelsToTwips(qMin(m_commands->Toolbar()->sizeHint().width() + frame, screen.width()));
+    // Wide enough for the toolbar, and for the list's columns with a
+    // readable remark, as far as the screen allows.
+    const int listWidth = TwipsToPixels(m_list.PreferredGridWidth()) +
+                          style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    const int wanted = qMax(m_commands->Toolbar()->sizeHint().width(), listWidth) + frame;
+    placement.width = PixelsToTwips(qMin(wanted, screen.width()));
     placement.height = PixelsToTwips(screen.height()) - 2048;
     placement.left = PixelsToTwips(screen.left() + screen.width() / 2) - placement.width / 2;
     placement.top = PixelsToTwips(screen.top() + screen.height() / 2) - placement.height / 2;
