@@ -7,6 +7,7 @@
 
 #include "core/sqlwriters.h"
 #include "mainwin/mainwindow.h"
+#include "mainwin/splashwindow.h"
 
 #include <QApplication>
 #include <QLocale>
@@ -36,8 +37,19 @@ int main(int argc, char** argv)
     if (!heft::StartSession(session, options))
         return 1;
 
+    // The splash stays up while the list is read; without the collection's
+    // logo the program can't go on.
+    heft::SplashWindow splash(session);
+    if (!splash.LoadImages()) {
+        heft::CloseDatabases(session);
+        return 1;
+    }
+    splash.show();
+    QCoreApplication::processEvents();
+
     heft::MainWindow window;
     window.LoadList(session);
+    splash.close();
     QObject::connect(&app, &QCoreApplication::aboutToQuit, [&session] { heft::CloseDatabases(session); });
     return QApplication::exec();
 }

@@ -76,6 +76,7 @@ private:
     void EnableCommands();
     void CheckDetailsTable();
     void DeleteClick();
+    void InfoClick();
     void StatusPanelClick(int panel);
     void RestoreWindowPlacement();
     void SaveWindowPlacement();

@@ -2,8 +2,10 @@
 // button, a status panel or the pop-up menu is chosen, and which commands
 // are on.
 
+#include "helpwindow.h"
 #include "maincommands.h"
 #include "mainwindow.h"
+#include "splashwindow.h"
 #include "statusbar.h"
 
 #include "core/session.h"
@@ -11,6 +13,7 @@
 #include "core/textfuncs.h"
 
 #include <QAction>
+#include <QCoreApplication>
 #include <QMenu>
 #include <QPrinterInfo>
 
@@ -35,6 +38,8 @@ void MainWindow::SetupCommands()
     m_commands = new MainCommands(*this);
     m_commands->SetHandler(u"mnu_delete"_s, [this] { DeleteClick(); });
     m_commands->SetHandler(u"mnu_Beenden"_s, [this] { close(); });
+    m_commands->SetHandler(u"mnu_help"_s, [this] { ShowHelp(this); });
+    m_commands->SetHandler(u"mnu_Info"_s, [this] { InfoClick(); });
     connect(this, &MainWindow::PopupRequested, this,
             [this](const QPoint& globalPos) { m_commands->PopupMenu()->popup(globalPos); });
     connect(m_status, &StatusBar::PanelClicked, this, &MainWindow::StatusPanelClick);
@@ -106,6 +111,18 @@ void MainWindow::DeleteClick()
         m_list.RemoveEntryRows(nr);
         GetNrRange(session, u";"_s, m_list.LowestNr, m_list.HighestNr);
     }
+}
+
+void MainWindow::InfoClick()
+{
+    SplashWindow about(*m_session, this);
+    if (about.LoadImages()) {
+        about.exec();
+        return;
+    }
+    // A collection whose logo is gone can't be used any further.
+    CloseDatabases(*m_session);
+    QCoreApplication::exit(1);
 }
 
 void MainWindow::StatisticsClick(const std::function<void()>& openStatistics)
