@@ -41,6 +41,13 @@ public:
     // come back when there is an entry again.
     void EnableEntryCommands();
     void DisableEntryCommands();
+    // The detail window lives in a library above this one; the program
+    // hands in how to open it (edit mode or view mode), which switches on
+    // mnu_detail and mnu_detail_b.
+    void SetDetailOpener(std::function<void(bool editMode)> opener);
+    // Opens the detail window on the current entry, modal; nothing if the
+    // program has none.
+    void OpenDetails(bool editMode);
     // mnu_stat: statistics need at least two entries in the full list.
     void StatisticsClick(const std::function<void()>& openStatistics);
 
@@ -91,6 +98,7 @@ private:
     Session* m_session = nullptr;
     bool m_progressCursor = false;
     bool m_detailsTableReadable = true;
+    std::function<void(bool)> m_detailOpener;
 };
 
 } // namespace heft

@@ -60,6 +60,7 @@ void MainWindow::EnableCommands()
                                 u"mnu_import"_s})
         m_commands->SetEnabled(name, true);
     m_commands->SetEnabled(u"mnu_zyklus"_s, m_session->CycleDb != nullptr);
+    m_commands->SetEnabled(u"mnu_detail_b"_s, true);
     EnableEntryCommands();
 }
 
@@ -111,6 +112,23 @@ void MainWindow::DeleteClick()
         m_list.RemoveEntryRows(nr);
         GetNrRange(session, u";"_s, m_list.LowestNr, m_list.HighestNr);
     }
+}
+
+void MainWindow::SetDetailOpener(std::function<void(bool editMode)> opener)
+{
+    m_detailOpener = std::move(opener);
+    m_commands->SetHandler(u"mnu_detail"_s, [this] { OpenDetails(false); });
+    m_commands->SetHandler(u"mnu_detail_b"_s, [this] { OpenDetails(true); });
+    if (m_session) {
+        m_commands->SetEnabled(u"mnu_detail_b"_s, true);
+        EnableEntryCommands();
+    }
+}
+
+void MainWindow::OpenDetails(bool editMode)
+{
+    if (m_detailOpener)
+        m_detailOpener(editMode);
 }
 
 void MainWindow::InfoClick()
