@@ -249,14 +249,18 @@ bool StatusPanel::EditorKey(QWidget* editor, const QKeyEvent& key)
 bool StatusPanel::eventFilter(QObject* watched, QEvent* event)
 {
     const QEvent::Type type = event->type();
-    if (watched == m_text || watched == m_combo || watched == m_combo->lineEdit()) {
-        auto* key = static_cast<QKeyEvent*>(event);
-        if (type == QEvent::ShortcutOverride && (IsEnter(*key) || key->key() == Qt::Key_Escape)) {
-            event->accept();
-            return true;
+    const bool keyEvent = type == QEvent::KeyPress || type == QEvent::ShortcutOverride;
+    if (keyEvent && (watched == m_text || watched == m_combo || watched == m_combo->lineEdit())) {
+        const auto& key = *static_cast<QKeyEvent*>(event);
+        if (type == QEvent::ShortcutOverride) {
+            // Enter and Esc belong to the editor, not to a shortcut of the window.
+            if (IsEnter(key) || key.key() == Qt::Key_Escape) {
+                event->accept();
+                return true;
+            }
+        } else if (m_editRow != 0) {
+            return EditorKey(watched == m_text ? static_cast<QWidget*>(m_text) : m_combo, key);
         }
-        if (type == QEvent::KeyPress && m_editRow != 0)
-            return EditorKey(watched == m_text ? static_cast<QWidget*>(m_text) : m_combo, *key);
     } else if (watched == m_list && type == QEvent::KeyPress) {
         HideFloatEditors();
         if (IsEnter(*static_cast<QKeyEvent*>(event))) {

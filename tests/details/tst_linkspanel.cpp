@@ -24,24 +24,21 @@ using namespace heft::test;
 
 namespace {
 
-constexpr int Nr = 5;
 const QString OpenList = u"Valdorin Heftromane"_s;
 const QString OtherList = u"Sternfahrer Taschenbücher"_s;
 
-// Runs action; answers each modal dialog it opens with answer. Returns how
-// many dialogs opened.
+// Runs action and answers each modal dialog it opens; returns how many.
 int WithDialog(const std::function<void()>& action, const std::function<void(QDialog&)>& answer)
 {
     int opened = 0;
     QTimer poll;
-    poll.setInterval(5);
     QObject::connect(&poll, &QTimer::timeout, [&] {
         if (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
             ++opened;
             answer(*dialog);
         }
     });
-    poll.start();
+    poll.start(5);
     action();
     return opened;
 }
@@ -51,6 +48,7 @@ void Accept(QDialog& dialog)
     dialog.findChild<QPushButton*>(u"btn_ok"_s)->click();
 }
 
+// Entries 1 to 20 in the main list, entry 5 current, with the given links.
 struct Fixture {
     explicit Fixture(const QList<LinkRow>& links, bool edit = true)
     {
@@ -59,13 +57,13 @@ struct Fixture {
             entries.append({nr, u"Ada Wendrich"_s, u"Im Nebel von Karsa, Teil %1"_s.arg(nr)});
         collection.Add(entries);
         LoadEntryList(collection, entryList, entryList.Heftliste);
-        entryList.FindAndShowRow(Nr);
+        entryList.FindAndShowRow(5);
         for (int i = 0; i < links.size(); ++i)
-            collection.Exec(u"INSERT INTO Links VALUES (%1, %2, %3, '%4', '%5');"_s.arg(Nr).arg(i + 1)
-                                .arg(links[i].number).arg(links[i].text, links[i].series));
+            collection.Exec(u"INSERT INTO Links VALUES (5, %1, %2, '%3', '%4');"_s.arg(i + 1).arg(links[i].number)
+                                .arg(links[i].text, links[i].series));
         panel = std::make_unique<LinksPanel>(collection.session, entryList);
         panel->SetEditMode(edit);
-        panel->LoadLinksList(Nr);
+        panel->LoadLinksList(5);
         panel->resize(560, 300);
         panel->show();
         if (!QTest::qWaitForWindowExposed(panel.get()))
@@ -73,6 +71,13 @@ struct Fixture {
         list = panel->findChild<QTreeWidget*>(u"liv_links"_s);
     }
     QPushButton* Button(const QString& name) const { return panel->findChild<QPushButton*>(name); }
+    QList<bool> Enabled() const
+    {
+        QList<bool> enabled;
+        for (const QString& name : {u"btn_neu"_s, u"btn_edit"_s, u"btn_del"_s, u"btn_goto"_s})
+            enabled << Button(name)->isEnabled();
+        return enabled;
+    }
     QList<int> Numbers() const
     {
         QList<int> numbers;
@@ -82,13 +87,6 @@ struct Fixture {
     }
     int Selected() const { return list->indexOfTopLevelItem(list->currentItem()); }
     void Select(int row) const { list->setCurrentItem(list->topLevelItem(row)); }
-    void DoubleClickFirstRow() const
-    {
-        const QPoint at = list->topLevelItemCount() > 0 ? list->visualItemRect(list->topLevelItem(0)).center()
-                                                        : QPoint(20, 10);
-        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, at);
-        QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, at);
-    }
     void ClickHeader(int column) const
     {
         QHeaderView* header = list->header();
@@ -116,18 +114,17 @@ class TestLinksPanel : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    // Buttons btn_neu, btn_edit, btn_del, btn_goto; a double click edits
+    // only where btn_edit could.
     void buttonsAfterLoad_data()
     {
         QTest::addColumn<QList<LinkRow>>("links");
         QTest::addColumn<bool>("edit");
-        QTest::addColumn<QList<bool>>("enabled"); // btn_neu, btn_edit, btn_del, btn_goto
+        QTest::addColumn<QList<bool>>("enabled");
         QTest::newRow("empty") << QList<LinkRow>() << true << QList<bool>{true, false, false, false};
-        QTest::newRow("fourteen") << Parts(14) << true << QList<bool>{true, true, true, true};
         QTest::newRow("fifteen") << Parts(15) << true << QList<bool>{false, true, true, true};
         QTest::newRow("other list") << Parts(2, OtherList) << true << QList<bool>{true, true, true, false};
         QTest::newRow("view mode") << Parts(3) << false << QList<bool>{false, false, false, true};
-        QTest::newRow("view mode, other list") << Parts(3, OtherList) << false << QList<bool>{false, false, false, false};
-        QTest::newRow("view mode, empty") << QList<LinkRow>() << false << QList<bool>{false, false, false, false};
     }
     void buttonsAfterLoad()
     {
@@ -135,55 +132,34 @@ private Q_SLOTS:
         QFETCH(bool, edit);
         QFETCH(QList<bool>, enabled);
         Fixture f(links, edit);
-        QList<bool> actual;
-        for (const QString& name : {u"btn_neu"_s, u"btn_edit"_s, u"btn_del"_s, u"btn_goto"_s})
-            actual << f.Button(name)->isEnabled();
-        QCOMPARE(actual, enabled);
-        QCOMPARE(f.list->toolTip().isEmpty(), !edit);
+        QCOMPARE(f.Enabled(), enabled);
         QCOMPARE(f.panel->Links().size(), links.size());
-        // Only an edit-mode list with a row opens the dialog on a double click.
-        const int opened = WithDialog([&] { f.DoubleClickFirstRow(); }, [](QDialog& d) { d.reject(); });
-        QCOMPARE(opened, edit && !links.isEmpty() ? 1 : 0);
+        const QPoint at = links.isEmpty() ? QPoint(20, 10) : f.list->visualItemRect(f.list->topLevelItem(0)).center();
+        const int opened = WithDialog([&] {
+            QTest::mouseClick(f.list->viewport(), Qt::LeftButton, {}, at);
+            QTest::mouseDClick(f.list->viewport(), Qt::LeftButton, {}, at);
+        }, [](QDialog& d) { d.reject(); });
+        QCOMPARE(opened, enabled[1] ? 1 : 0);
     }
 
     // The fifteenth link fills the list; deleting one makes room again.
     void fifteenthLinkDisablesAdding()
     {
         Fixture f(Parts(14));
-        QSignalSpy changed(f.panel.get(), &LinksPanel::Changed);
         f.Select(3);
-        const int opened = WithDialog([&] { f.Button(u"btn_neu"_s)->click(); }, [](QDialog& dialog) {
-            QCOMPARE(dialog.objectName(), u"frm_editlink"_s);
-            QCOMPARE(dialog.windowTitle(), u"Link Bearbeiten"_s);
+        WithDialog([&] { f.Button(u"btn_neu"_s)->click(); }, [](QDialog& dialog) {
             // The entry after the one the window shows, in the open list.
             QCOMPARE(dialog.findChild<QLineEdit*>(u"txt_nr"_s)->text(), u"6"_s);
             QCOMPARE(dialog.findChild<QLineEdit*>(u"txt_link"_s)->text(), u"Teil X von Y"_s);
             QCOMPARE(dialog.findChild<QLineEdit*>(u"txt_serie"_s)->text(), OpenList);
-            auto* text = dialog.findChild<QLineEdit*>(u"txt_link"_s);
-            text->clear();
-            QTest::keyClicks(text, u"Nachtrag: die Karte von Karsa"_s);
             Accept(dialog);
         });
-        QCOMPARE(opened, 1);
         QCOMPARE(f.panel->Links().size(), 15);
-        // Behind the row that was selected, and selected itself.
-        QCOMPARE(f.panel->Links()[4].text, u"Nachtrag: die Karte von Karsa"_s);
+        QCOMPARE(f.panel->Links()[4].text, u"Teil X von Y"_s);
         QCOMPARE(f.Selected(), 4);
         QVERIFY(!f.Button(u"btn_neu"_s)->isEnabled());
-        QVERIFY(changed.size() >= 1);
-
         f.Button(u"btn_del"_s)->click();
-        QCOMPARE(f.panel->Links().size(), 14);
         QVERIFY(f.Button(u"btn_neu"_s)->isEnabled());
-    }
-
-    void addIntoEmptyList()
-    {
-        Fixture f({});
-        WithDialog([&] { f.Button(u"btn_neu"_s)->click(); }, Accept);
-        QCOMPARE(f.Numbers(), QList<int>{6});
-        for (const QString& name : {u"btn_edit"_s, u"btn_del"_s, u"btn_goto"_s})
-            QVERIFY2(f.Button(name)->isEnabled(), qPrintable(name));
     }
 
     // The row moving into the gap is selected, or the last one.
@@ -192,7 +168,6 @@ private Q_SLOTS:
         QTest::addColumn<int>("rows");
         QTest::addColumn<int>("selected");
         QTest::addColumn<int>("selectedAfter");
-        QTest::newRow("first of three") << 3 << 0 << 0;
         QTest::newRow("middle of three") << 3 << 1 << 1;
         QTest::newRow("last of three") << 3 << 2 << 1;
         QTest::newRow("the only one") << 1 << 0 << -1;
@@ -205,19 +180,14 @@ private Q_SLOTS:
         Fixture f(Parts(rows));
         QSignalSpy changed(f.panel.get(), &LinksPanel::Changed);
         f.Select(selected);
-        const int removed = f.Numbers()[selected];
         f.Button(u"btn_del"_s)->click();
-        QVERIFY(!f.Numbers().contains(removed));
+        QVERIFY(!f.Numbers().contains(6 + selected));
         QCOMPARE(f.Selected(), selectedAfter);
         QCOMPARE(changed.size(), 1);
-        const bool anyLeft = rows > 1;
-        QCOMPARE(f.Button(u"btn_edit"_s)->isEnabled(), anyLeft);
-        QCOMPARE(f.Button(u"btn_del"_s)->isEnabled(), anyLeft);
-        QCOMPARE(f.Button(u"btn_goto"_s)->isEnabled(), anyLeft);
+        QCOMPARE(f.Enabled().mid(1), QList<bool>(3, rows > 1));
     }
 
-    // The number box takes digits only; a number below 1 keeps the dialog
-    // open on the box.
+    // The number box takes digits only; below 1 keeps the dialog open.
     void linkNumber_data()
     {
         QTest::addColumn<QString>("typed");
@@ -225,10 +195,8 @@ private Q_SLOTS:
         QTest::addColumn<QString>("shown");
         QTest::newRow("zero") << u"0"_s << false << u"0"_s;
         QTest::newRow("nothing") << u""_s << false << u"0"_s;
-        QTest::newRow("letters only") << u"abc"_s << false << u"0"_s;
         QTest::newRow("leading zeros") << u"00042"_s << true << u"42"_s;
         QTest::newRow("letters between") << u"4x2"_s << true << u"42"_s;
-        QTest::newRow("more than five digits") << u"1234567"_s << true << u"12345"_s;
     }
     void linkNumber()
     {
@@ -237,67 +205,27 @@ private Q_SLOTS:
         QFETCH(QString, shown);
         EditLinkDialog dialog({6, u"Teil X von Y"_s, OpenList});
         dialog.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
         auto* number = dialog.findChild<QLineEdit*>(u"txt_nr"_s);
         number->clear();
         QTest::keyClicks(number, typed);
         Accept(dialog);
         QCOMPARE(dialog.isVisible(), !accepted);
-        QCOMPARE(dialog.result(), accepted ? QDialog::Accepted : QDialog::Rejected);
         QCOMPARE(number->text(), shown);
-        if (!accepted)
-            QCOMPARE(number->selectedText(), shown);
-        else
-            QCOMPARE(dialog.Link().number, shown.toInt());
-    }
-
-    // Esc and btn_nok leave the link as it was.
-    void editThenDiscard()
-    {
-        Fixture f(Parts(2));
-        QSignalSpy changed(f.panel.get(), &LinksPanel::Changed);
-        f.Select(1);
-        auto typeThen = [](const std::function<void(QDialog&)>& leave) {
-            return [leave](QDialog& dialog) {
-                QCOMPARE(dialog.findChild<QLineEdit*>(u"txt_nr"_s)->text(), u"7"_s);
-                QTest::keyClicks(dialog.findChild<QLineEdit*>(u"txt_link"_s), u" (neu)"_s);
-                leave(dialog);
-            };
-        };
-        WithDialog([&] { f.Button(u"btn_edit"_s)->click(); },
-                   typeThen([](QDialog& d) { QTest::keyClick(&d, Qt::Key_Escape); }));
-        WithDialog([&] { f.Button(u"btn_edit"_s)->click(); },
-                   typeThen([](QDialog& d) { d.findChild<QPushButton*>(u"btn_nok"_s)->click(); }));
-        QCOMPARE(f.panel->Links()[1].text, u"Teil 2 von 2"_s);
-        QCOMPARE(changed.size(), 0);
-
-        // Moving the link into another list takes away the jump.
-        WithDialog([&] { f.Button(u"btn_edit"_s)->click(); }, [](QDialog& dialog) {
-            auto* series = dialog.findChild<QLineEdit*>(u"txt_serie"_s);
-            series->setText(OtherList);
-            Accept(dialog);
-        });
-        QCOMPARE(f.panel->Links()[1].series, OtherList);
-        QVERIFY(!f.Button(u"btn_goto"_s)->isEnabled());
-        QCOMPARE(changed.size(), 1);
+        QCOMPARE(accepted ? dialog.Link().number : number->selectedText().toInt(), shown.toInt());
     }
 
     // Every header click flips the order; Links() gives the order shown,
-    // which is the order the save writes.
+    // which the save writes. A new link goes behind the selected one.
     void headerSortFixesOrder()
     {
-        Fixture f({{12, u"Karsa erwacht"_s, OpenList},
-                   {9, u"Aufbruch"_s, OpenList},
-                   {101, u"Das Echo"_s, OtherList},
-                   {30, u"Ödland"_s, OpenList}});
+        Fixture f({{12, u"Karsa erwacht"_s, OpenList}, {9, u"Aufbruch"_s, OpenList},
+                   {101, u"Das Echo"_s, OtherList}, {30, u"Ödland"_s, OpenList}});
         f.ClickHeader(0);
         QCOMPARE(f.Numbers(), (QList<int>{9, 12, 30, 101}));
         f.ClickHeader(0);
         QCOMPARE(f.Numbers(), (QList<int>{101, 30, 12, 9}));
         f.ClickHeader(1);
         QCOMPARE(f.Numbers(), (QList<int>{9, 101, 12, 30}));
-
-        // A new link goes behind the selected one, not into the sort.
         f.Select(0);
         WithDialog([&] { f.Button(u"btn_neu"_s)->click(); }, Accept);
         QCOMPARE(f.Numbers(), (QList<int>{9, 6, 101, 12, 30}));
@@ -305,27 +233,27 @@ private Q_SLOTS:
 
     void gotoSelectsEntry()
     {
-        Fixture f({{12, u"Karsa erwacht"_s, OpenList},
-                   {3, u"gleiche Geschichte"_s, OtherList},
+        Fixture f({{12, u"Karsa erwacht"_s, OpenList}, {3, u"gleiche Geschichte"_s, OtherList},
                    {99, u"noch nicht erschienen"_s, OpenList}});
-        EntryGrid& grid = f.entryList.Heftliste;
+        const EntryGrid& grid = f.entryList.Heftliste;
         QPushButton* jump = f.Button(u"btn_goto"_s);
-        QVERIFY(jump->isEnabled());
         jump->click();
         QCOMPARE(grid.TextMatrix(grid.Row(), ColNr), u"12"_s);
-
-        // Into another list: nothing to follow, even when clicked.
-        f.list->setFocus();
         QTest::keyClick(f.list, Qt::Key_Down);
-        QCOMPARE(f.Selected(), 1);
         QVERIFY(!jump->isEnabled());
         // A number missing from the list leaves the main list as it was.
         QTest::keyClick(f.list, Qt::Key_Down);
-        QVERIFY(jump->isEnabled());
         jump->click();
         QCOMPARE(grid.TextMatrix(grid.Row(), ColNr), u"12"_s);
-        QCOMPARE(f.Selected(), 2);
 
+        // Edited into another list, the link can no longer be followed.
+        WithDialog([&] { f.Button(u"btn_edit"_s)->click(); }, [](QDialog& dialog) {
+            QCOMPARE(dialog.findChild<QLineEdit*>(u"txt_nr"_s)->text(), u"99"_s);
+            dialog.findChild<QLineEdit*>(u"txt_serie"_s)->setText(OtherList);
+            Accept(dialog);
+        });
+        QCOMPARE(f.panel->Links()[2].series, OtherList);
+        QVERIFY(!jump->isEnabled());
         f.Select(0);
         f.panel->grab().save(u"/tmp/links-panel.png"_s);
     }

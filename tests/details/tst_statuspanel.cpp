@@ -11,41 +11,30 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
-#include <memory>
-
 using namespace Qt::StringLiterals;
 using namespace heft;
 using namespace heft::test;
 
 namespace {
 
-constexpr int Nr = 7;
-
-// A collection whose entry 7 has a stamp, a price, a count, a condition and
-// a lender's note, plus values of the condition in other entries.
-void AddStatusRows(TempCollection& collection)
-{
-    const QStringList rows{
-        u"(7, 1, '2024-01-02 um 10:11:12')"_s, u"(7, 2, '0000120')"_s, u"(7, 3, 'gut')"_s,
-        u"(7, 4, 'Kiosk am Markt')"_s,        u"(7, 5, '00003.5')"_s, u"(7, 7, '')"_s,
-        u"(7, 25, 'verirrt')"_s,              u"(8, 3, 'sehr gut')"_s, u"(9, 3, '  mäßig ')"_s,
-        u"(10, 3, '')"_s,                     u"(11, 3, 'gut')"_s,     u"(8, 4, 'Bahnhofsbuchhandlung')"_s,
-    };
-    for (const QString& row : rows)
-        collection.Exec(u"INSERT INTO Status (Nr, ENum, StatusWert) VALUES "_s + row + u";"_s);
-}
-
+// Entry 7 with a stamp, a count, a condition, a seller and a price; the
+// condition used in other entries too. ENum 25 belongs to no attribute.
 struct Fixture {
     explicit Fixture(bool edit = true)
     {
-        AddStatusRows(collection);
-        panel = std::make_unique<StatusPanel>(collection.session);
-        panel->SetEditMode(edit);
-        panel->LoadStatusList(Nr);
-        panel->resize(460, 520);
-        panel->show();
-        if (!QTest::qWaitForWindowExposed(panel.get()))
+        for (const QString& row : {u"7, 1, '2024-01-02 um 10:11:12'"_s, u"7, 2, '0000120'"_s, u"7, 3, 'gut'"_s,
+                                   u"7, 4, 'Kiosk am Markt'"_s, u"7, 5, '00003.5'"_s, u"7, 25, 'verirrt'"_s,
+                                   u"8, 3, 'sehr gut'"_s, u"9, 3, '  mäßig '"_s, u"10, 3, ''"_s, u"11, 3, 'gut'"_s})
+            collection.Exec(u"INSERT INTO Status (Nr, ENum, StatusWert) VALUES (%1);"_s.arg(row));
+        auto* panel_ = new StatusPanel(collection.session, &window);
+        (new QVBoxLayout(&window))->addWidget(panel_);
+        panel_->SetEditMode(edit);
+        panel_->LoadStatusList(7);
+        window.resize(460, 520);
+        window.show();
+        if (!QTest::qWaitForWindowExposed(&window))
             qFatal("status panel not shown");
+        panel = panel_;
         list = panel->findChild<QTreeWidget*>(u"liv_status"_s);
         text = panel->findChild<QLineEdit*>(u"txt_float"_s);
         combo = panel->findChild<QComboBox*>(u"cmb_float"_s);
@@ -57,21 +46,21 @@ struct Fixture {
         list->setCurrentItem(Row(enumber));
         QTest::keyClick(list, Qt::Key_Return);
     }
-    // QTest sends a double click as the second press alone; the view
-    // needs the first click to know the row.
-    void DoubleClick(int enumber) const
-    {
-        const QPoint at = list->visualItemRect(Row(enumber)).center();
-        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, at);
-        QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, at);
-    }
     void Click(int enumber) const
     {
         QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(Row(enumber)).center());
     }
+    // QTest sends a double click as the second press alone; the view needs
+    // the first click to know the row.
+    void DoubleClick(int enumber) const
+    {
+        Click(enumber);
+        QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(Row(enumber)).center());
+    }
 
     TempCollection collection;
-    std::unique_ptr<StatusPanel> panel;
+    QDialog window; // stands in for the detail window, to see where Esc goes
+    StatusPanel* panel = nullptr;
     QTreeWidget* list = nullptr;
     QLineEdit* text = nullptr;
     QComboBox* combo = nullptr;
@@ -88,22 +77,18 @@ private Q_SLOTS:
         Fixture f;
         QCOMPARE(f.list->topLevelItemCount(), 19);
         QCOMPARE(f.Row(12)->text(1), u"Coverausführung"_s);
-        const QStringList shown{u"2024-01-02 um 10:11:12"_s, u"120"_s, u"gut"_s, u"Kiosk am Markt"_s, u"3.5"_s};
-        for (int enumber = 1; enumber <= shown.size(); ++enumber)
-            QCOMPARE(f.Shown(enumber), shown[enumber - 1]);
-        // The unknown ENum 25 lands nowhere, the other entry's rows neither.
-        for (int enumber = 6; enumber <= 19; ++enumber)
-            QVERIFY2(f.Shown(enumber).isEmpty(), qPrintable(f.Shown(enumber)));
-        QCOMPARE(f.panel->StoredValue(2), u"0000120"_s);
+        QStringList shown;
+        for (int enumber = 1; enumber <= 19; ++enumber)
+            shown << f.Shown(enumber);
+        QCOMPARE(shown.mid(0, 6), (QStringList{u"2024-01-02 um 10:11:12"_s, u"120"_s, u"gut"_s,
+                                              u"Kiosk am Markt"_s, u"3.5"_s, QString()}));
+        QCOMPARE(shown.mid(6).join(QString()), QString());
         QCOMPARE(f.panel->StoredValue(5), u"00003.5"_s);
-        QCOMPARE(f.panel->StoredValue(6), QString());
-        QCOMPARE(f.list->toolTip(), u"Doppelklick zum Bearbeiten"_s);
-
-        // Loading another entry starts from empty rows again.
+        // Another entry starts from empty rows.
         f.panel->LoadStatusList(8);
         QCOMPARE(f.Shown(3), u"sehr gut"_s);
         QCOMPARE(f.Shown(5), QString());
-        f.panel->LoadStatusList(Nr);
+        f.panel->LoadStatusList(7);
         f.OpenWithEnter(6);
         f.panel->grab().save(u"/tmp/status-panel.png"_s);
     }
@@ -121,8 +106,6 @@ private Q_SLOTS:
         QTest::newRow("only digits in the count") << 2 << u"1a2.3"_s << u"123"_s << u"0000123"_s;
         QTest::newRow("five places in the pages") << 10 << u"1234567"_s << u"12345"_s << u"0012345"_s;
         QTest::newRow("old lending date") << 18 << u"1.2.1899"_s << u"1901-01-01"_s << u"1901-01-01"_s;
-        QTest::newRow("text with apostrophe") << 4 << u"Heinz' Antiquariat"_s << u"Heinz' Antiquariat"_s
-                                              << u"Heinz' Antiquariat"_s;
     }
     void typeAndEnter()
     {
@@ -131,16 +114,13 @@ private Q_SLOTS:
         QFETCH(QString, shown);
         QFETCH(QString, stored);
         Fixture f;
-        QSignalSpy changed(f.panel.get(), &StatusPanel::Changed);
+        QSignalSpy changed(f.panel, &StatusPanel::Changed);
         f.OpenWithEnter(enumber);
-        QVERIFY(f.panel->IsEditorOpen());
-        QVERIFY(!f.text->isHidden());
-        QVERIFY(f.combo->isHidden());
+        QVERIFY(!f.text->isHidden() && f.combo->isHidden());
         QVERIFY(f.Row(enumber)->font(1).bold());
         // The box lies over the row's value cell.
         const QRect box(f.list->viewport()->mapFrom(f.text->parentWidget(), f.text->pos()), f.text->size());
-        const QRect row = f.list->visualItemRect(f.Row(enumber));
-        QVERIFY(box.contains(QPoint(row.left() + 4, row.center().y())));
+        QVERIFY(box.contains(f.list->visualItemRect(f.Row(enumber)).topLeft() + QPoint(4, 4)));
         QVERIFY(box.right() < f.list->columnWidth(0));
 
         f.text->clear();
@@ -153,53 +133,27 @@ private Q_SLOTS:
         QCOMPARE(changed.size(), 1);
     }
 
-    // A refused value keeps the editor open and changes nothing; Esc then
-    // drops it and the empty row loses its "? ? ?".
+    // A refused value keeps the editor open and changes nothing; Esc drops
+    // it without closing the window, and the row loses its "? ? ?".
     void refusedThenEsc()
     {
         Fixture f;
-        QSignalSpy changed(f.panel.get(), &StatusPanel::Changed);
+        QSignalSpy changed(f.panel, &StatusPanel::Changed);
         f.DoubleClick(6);
-        QVERIFY(!f.text->isHidden());
         QCOMPARE(f.Shown(6), u"? ? ?"_s);
         QCOMPARE(f.panel->StoredValue(6), QString());
         f.text->setText(u"1,2,3"_s); // pasted: the key filter doesn't see it
         QTest::keyClick(f.text, Qt::Key_Enter);
         QVERIFY(!f.text->isHidden());
-        QCOMPARE(f.Shown(6), u"? ? ?"_s);
-        QCOMPARE(changed.size(), 0);
         QTest::keyClick(f.text, Qt::Key_Escape);
         QVERIFY(!f.panel->IsEditorOpen());
+        QVERIFY(f.window.isVisible());
         QCOMPARE(f.Shown(6), QString());
         QVERIFY(!f.Row(6)->font(0).bold());
         QCOMPARE(changed.size(), 0);
-    }
-
-    // Esc in an editor stays there; from the list it reaches the window.
-    void escClosesOnlyFromTheList()
-    {
-        TempCollection collection;
-        AddStatusRows(collection);
-        QDialog window;
-        auto* panel = new StatusPanel(collection.session, &window);
-        (new QVBoxLayout(&window))->addWidget(panel);
-        panel->SetEditMode(true);
-        panel->LoadStatusList(Nr);
-        window.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&window));
-        auto* list = panel->findChild<QTreeWidget*>(u"liv_status"_s);
-        for (const char* editor : {"txt_float", "cmb_float"}) {
-            list->setCurrentItem(list->topLevelItem(QByteArray(editor) == "txt_float" ? 3 : 2));
-            QTest::keyClick(list, Qt::Key_Return);
-            auto* box = panel->findChild<QWidget*>(QString::fromLatin1(editor));
-            QVERIFY(!box->isHidden());
-            QTest::keyClick(box, Qt::Key_Escape);
-            QVERIFY(box->isHidden());
-            QVERIFY(window.isVisible());
-        }
-        QCOMPARE(list->topLevelItem(3)->text(0), u"Kiosk am Markt"_s);
-        QTest::keyClick(list, Qt::Key_Escape);
-        QVERIFY(!window.isVisible());
+        // From the list itself Esc reaches the window.
+        QTest::keyClick(f.list, Qt::Key_Escape);
+        QVERIFY(!f.window.isVisible());
     }
 
     void noEditor_data()
@@ -220,29 +174,23 @@ private Q_SLOTS:
         QVERIFY(!f.panel->IsEditorOpen());
         f.OpenWithEnter(enumber);
         QVERIFY(!f.panel->IsEditorOpen());
-        QVERIFY(!f.Row(enumber)->font(0).bold());
     }
 
-    // The combo offers the values used anywhere for the attribute, trimmed,
-    // without empties, and starts with the row's own value.
+    // The combo offers the values used anywhere for the attribute, trimmed
+    // and without empties, and starts with the row's own value.
     void comboOffersUsedValues()
     {
         Fixture f;
-        QSignalSpy changed(f.panel.get(), &StatusPanel::Changed);
         f.DoubleClick(3);
-        QVERIFY(!f.combo->isHidden());
-        QVERIFY(f.text->isHidden());
+        QVERIFY(!f.combo->isHidden() && f.text->isHidden());
         QStringList offered;
         for (int i = 0; i < f.combo->count(); ++i)
             offered << f.combo->itemText(i);
         QCOMPARE(offered, (QStringList{u"mäßig"_s, u"gut"_s, u"sehr gut"_s}));
         QCOMPARE(f.combo->currentText(), u"gut"_s);
-        f.combo->lineEdit()->clear();
-        QTest::keyClicks(f.combo->lineEdit(), u"wie neu, kaum gelesen"_s);
-        QTest::keyClick(f.combo->lineEdit(), Qt::Key_Return);
-        QVERIFY(!f.panel->IsEditorOpen());
-        QCOMPARE(f.Shown(3), u"wie neu, kaum gelesen"_s);
-        QCOMPARE(changed.size(), 1);
+        QTest::keyClick(f.combo->lineEdit(), Qt::Key_Escape);
+        QVERIFY(f.window.isVisible());
+        QCOMPARE(f.Shown(3), u"gut"_s);
     }
 
     // A click in the list takes the open editor's text if it is valid, and
@@ -255,7 +203,6 @@ private Q_SLOTS:
         QTest::newRow("combo text") << 3 << u"neuwertig"_s << u"neuwertig"_s;
         QTest::newRow("pasted comma") << 5 << u"4,25"_s << u"4.25"_s;
         QTest::newRow("refused keeps the old value") << 5 << u"x1"_s << u"3.5"_s;
-        QTest::newRow("nothing typed on an empty row") << 7 << u""_s << u""_s;
     }
     void clickInListCommits()
     {
@@ -272,7 +219,6 @@ private Q_SLOTS:
         QVERIFY(!f.panel->IsEditorOpen());
         QCOMPARE(f.Shown(enumber), shown);
         QCOMPARE(f.list->currentItem(), f.Row(10));
-        QVERIFY(!f.Row(enumber)->font(0).bold());
     }
 };
 
