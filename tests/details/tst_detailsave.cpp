@@ -1,0 +1,160 @@
+#include "testmain.h"
+#include "testsupport.h"
+
+#include "details/detailsave.h"
+#include "details/erstdatum.h"
+
+#include <QRegularExpression>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace heft;
+using namespace heft::test;
+
+namespace {
+
+DetailValues SampleValues()
+{
+    DetailValues values;
+    values.Nr = 7;
+    values.Details = {QDate(2009, 3, 1), u" Die Rückkehr der O'Varra "_s,
+                      {u"Kapitän Lorn"_s, u"D'Arcy Vell"_s, {}, {}, {}, {}, {}, {}, u"Mira 100%1"_s},
+                      u"Lorn trifft D'Arcy."_s};
+    values.Gestaltung = {u"Jo O'Kell"_s, u" Rana Till "_s, true, u"Kreuzer 'Stella'"_s, u"Ben Asto"_s};
+    values.Status = QStringList(StatusCount);
+    values.Status[0] = u"2009-03-01 um 10:00:00"_s;
+    values.Status[4] = u"00003.5"_s;
+    values.Status[18] = u"Gut, aber 'zäh'"_s;
+    values.Links = {{8, u"Teil 2 von 2"_s, u"Valdorin Heftromane"_s}, {3, u"Vorgeschichte 'Aufbruch'"_s, u"Valdorin Taschenbücher"_s}};
+    return values;
+}
+
+// The session's ExecuteSql is quiet under the detail window's caption.
+void QuietAsDetailWindow(TempCollection& collection)
+{
+    collection.session.ActiveCaption = [] { return u"Detailinfo [#7]"_s; };
+}
+
+QStringList Column(TempCollection& collection, const QString& sql)
+{
+    QStringList values;
+    Query query = collection.session.CollectionDb->Select(sql);
+    while (query.Next())
+        values << query.Text(0);
+    return values;
+}
+
+} // namespace
+
+class TestDetailSave : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void statementsOfOneEntry()
+    {
+        const QList<SaveStep> steps = DetailSaveSteps(SampleValues());
+        QCOMPARE(steps.size(), 2 + 1 + StatusCount + 1 + 2);
+
+        QCOMPARE(steps[0].Sql,
+                 u"INSERT INTO Details (Nr, Ersterscheinung, Untertitel, Person1, Person2, Person3, Person4, Person5, "
+                 "Person6, Person7, Person8, Person9, Inhalt) VALUES (7, '01.03.2009', 'Die Rückkehr der O''Varra', "
+                 "'Kapitän Lorn', 'D''Arcy Vell', '', '', '', '', '', '', 'Mira 100%1', 'Lorn trifft D''Arcy.');"_s);
+        QCOMPARE(steps[0].OnError,
+                 u"UPDATE Details SET Ersterscheinung='01.03.2009', Untertitel='Die Rückkehr der O''Varra', "
+                 "Person1='Kapitän Lorn', Person2='D''Arcy Vell', Person3='', Person4='', Person5='', Person6='', "
+                 "Person7='', Person8='', Person9='Mira 100%1', Inhalt='Lorn trifft D''Arcy.' WHERE Nr=7;"_s);
+        QCOMPARE(steps[1].Sql, u"INSERT INTO Gestaltung (Nr, TiBiZeichner, IlluZeichner, RZ, RiZeObjekt, RizeZeichner) "
+                               "VALUES (7, 'Jo O''Kell', 'Rana Till', 255, 'Kreuzer ''Stella''', 'Ben Asto');"_s);
+        QCOMPARE(steps[1].OnError, u"UPDATE Gestaltung SET TiBiZeichner='Jo O''Kell', IlluZeichner='Rana Till', RZ=255, "
+                                   "RiZeObjekt='Kreuzer ''Stella''', RiZeZeichner='Ben Asto' WHERE Nr=7;"_s);
+        QCOMPARE(steps[2].Sql, u"DELETE FROM Status WHERE Nr=7"_s);
+        QCOMPARE(steps[3].Sql, u"INSERT INTO Status (Nr, ENum, StatusWert) VALUES (7, 1, '2009-03-01 um 10:00:00');"_s);
+        QCOMPARE(steps[4].Sql, u"INSERT INTO Status (Nr, ENum, StatusWert) VALUES (7, 2, '');"_s);
+        QCOMPARE(steps[7].Sql, u"INSERT INTO Status (Nr, ENum, StatusWert) VALUES (7, 5, '00003.5');"_s);
+        QCOMPARE(steps[21].Sql, u"INSERT INTO Status (Nr, ENum, StatusWert) VALUES (7, 19, 'Gut, aber ''zäh''');"_s);
+        QCOMPARE(steps[22].Sql, u"DELETE FROM Links WHERE Nr=7"_s);
+        QCOMPARE(steps[23].Sql, u"INSERT INTO Links (Nr, ENum, LinkNum, LinkText, LinkSerie) "
+                                "VALUES (7, 1, 8, 'Teil 2 von 2', 'Valdorin Heftromane');"_s);
+        QCOMPARE(steps[24].Sql, u"INSERT INTO Links (Nr, ENum, LinkNum, LinkText, LinkSerie) "
+                                "VALUES (7, 2, 3, 'Vorgeschichte ''Aufbruch''', 'Valdorin Taschenbücher');"_s);
+        for (qsizetype i = 2; i < steps.size(); ++i)
+            QVERIFY(steps[i].OnError.isEmpty());
+    }
+
+    void saveRewritesTables_data()
+    {
+        QTest::addColumn<bool>("existing");
+        QTest::newRow("first save inserts") << false;
+        QTest::newRow("later save updates") << true;
+    }
+    void saveRewritesTables()
+    {
+        QFETCH(bool, existing);
+        TempCollection collection;
+        QuietAsDetailWindow(collection);
+        if (existing) {
+            collection.Exec(u"INSERT INTO Details (Nr, Ersterscheinung, Untertitel, Person1) VALUES (7, '01.01.1999', 'Alt', 'Alt');"_s);
+            collection.Exec(u"INSERT INTO Gestaltung (Nr, TiBiZeichner, RZ) VALUES (7, 'Alt', 0);"_s);
+            for (int enumber = 1; enumber <= 3; ++enumber)
+                collection.Exec(u"INSERT INTO Status (Nr, ENum, StatusWert) VALUES (7, %1, 'alt');"_s.arg(enumber));
+            for (int enumber = 1; enumber <= 4; ++enumber)
+                collection.Exec(u"INSERT INTO Links (Nr, ENum, LinkNum, LinkText, LinkSerie) VALUES (7, %1, 1, 'alt', 'X');"_s.arg(enumber));
+        }
+        // Another entry's rows stay untouched.
+        collection.Exec(u"INSERT INTO Status (Nr, ENum, StatusWert) VALUES (8, 3, 'fremd');"_s);
+
+        SaveDetails(collection.session, SampleValues());
+
+        QCOMPARE(collection.Value(u"SELECT COUNT(*) FROM Details WHERE Nr=7;"_s).toInt(), 1);
+        QCOMPARE(Column(collection, u"SELECT Ersterscheinung || '|' || Untertitel || '|' || Person2 || '|' || Person9 || '|' || Inhalt "
+                                    "FROM Details WHERE Nr=7;"_s),
+                 QStringList{u"01.03.2009|Die Rückkehr der O'Varra|D'Arcy Vell|Mira 100%1|Lorn trifft D'Arcy."_s});
+        QCOMPARE(Column(collection, u"SELECT TiBiZeichner || '|' || IlluZeichner || '|' || RZ || '|' || RiZeObjekt || '|' || "
+                                    "RiZeZeichner FROM Gestaltung WHERE Nr=7;"_s),
+                 QStringList{u"Jo O'Kell|Rana Till|-1|Kreuzer 'Stella'|Ben Asto"_s});
+        QCOMPARE(collection.Value(u"SELECT COUNT(*) FROM Status WHERE Nr=7;"_s).toInt(), StatusCount);
+        QCOMPARE(Column(collection, u"SELECT StatusWert FROM Status WHERE Nr=7 AND ENum IN (5, 19) ORDER BY ENum;"_s),
+                 QStringList({u"00003.5"_s, u"Gut, aber 'zäh'"_s}));
+        const QStringList stamp = Column(collection, u"SELECT StatusWert FROM Status WHERE Nr=7 AND ENum=1;"_s);
+        QCOMPARE(stamp.size(), 1);
+        QVERIFY2(QRegularExpression(u"^\\d{4}-\\d\\d-\\d\\d um \\d\\d:\\d\\d:\\d\\d$"_s).match(stamp[0]).hasMatch() &&
+                     stamp[0] != u"2009-03-01 um 10:00:00"_s,
+                 qPrintable(stamp[0]));
+        QCOMPARE(Column(collection, u"SELECT ENum || ':' || LinkNum || ':' || LinkText FROM Links WHERE Nr=7 ORDER BY ENum;"_s),
+                 QStringList({u"1:8:Teil 2 von 2"_s, u"2:3:Vorgeschichte 'Aufbruch'"_s}));
+        QCOMPARE(Column(collection, u"SELECT StatusWert FROM Status WHERE Nr=8;"_s), QStringList{u"fremd"_s});
+        QVERIFY(collection.prompter.asked.isEmpty());
+    }
+
+    void suggestedDate_data()
+    {
+        QTest::addColumn<QString>("previous"); // null: the previous entry has no Details row
+        QTest::addColumn<QDate>("expected");
+        const QDate today(2024, 5, 17);
+        QTest::newRow("a week after the previous issue") << u"01.03.2009"_s << QDate(2009, 3, 8);
+        QTest::newRow("imported ISO form") << u"2009-12-28"_s << QDate(2010, 1, 4);
+        QTest::newRow("marker means unknown") << u"31.12.1900"_s << today;
+        QTest::newRow("unreadable text") << u"irgendwann"_s << today;
+        QTest::newRow("no previous details") << QString() << today;
+    }
+    void suggestedDate()
+    {
+        QFETCH(QString, previous);
+        QFETCH(QDate, expected);
+        TempCollection collection;
+        if (!previous.isNull())
+            collection.Exec(u"INSERT INTO Details (Nr, Ersterscheinung) VALUES (41, '%1');"_s.arg(previous));
+        QCOMPARE(SuggestedErstdatum(collection.session, 42, QDate(2024, 5, 17)), expected);
+    }
+
+    void dateForms()
+    {
+        QCOMPARE(LongDate(QDate(2009, 3, 1)), u"Sonntag, 1. März 2009"_s);
+        QCOMPARE(ShortDate(QDate(2009, 3, 1)), u"01.03.2009"_s);
+        QCOMPARE(ShortDate(MarkerDate()), u"31.12.1900"_s);
+        QCOMPARE(ErstdatumFromText(u"08.03.2009"_s), QDate(2009, 3, 8));
+    }
+};
+
+HEFT_TEST(TestDetailSave)
+#include "tst_detailsave.moc"
