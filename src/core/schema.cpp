@@ -79,6 +79,9 @@ std::unique_ptr<Database> CreateCollectionFile(const QString& path, const QStrin
         return nullptr;
     QStringList statements = BaseTableStatements();
     statements << UpgradeStatements();
+    // Attribute rows are read and replaced by number and attribute together
+    // (the stamp of every save); this index keeps that fast.
+    statements << u"CREATE INDEX INS3 ON Status (Nr, ENum);"_s;
     statements << u"INSERT INTO KONFIGURATION VALUES ('%1', '%2', 'Logo.svg', 'Splash.svg');"_s.arg(
         QuoteSql(seriesName), QuoteSql(listKind));
     statements << u"INSERT INTO Parameter VALUES (1, 'Höchste Auflage', '5');"_s

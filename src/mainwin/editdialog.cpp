@@ -60,6 +60,7 @@ EditDialog::EditDialog(MainWindow& window)
     // btn_dummy is the default button and does nothing: Enter in a box lands
     // on it, so that a stray Enter neither saves nor discards.
     connect(m_ui->cmd_ok, &QPushButton::clicked, this, &EditDialog::AcceptEntry);
+    connect(m_ui->btn_details, &QPushButton::clicked, this, [&window] { window.OpenDetails(true); });
     FillControls(window);
 }
 

@@ -82,6 +82,7 @@ private:
     void SetupCommands();
     void EnableCommands();
     void CheckDetailsTable();
+    void EditClick(bool changeSelected);
     void DeleteClick();
     void InfoClick();
     void StatusPanelClick(int panel);

@@ -2,6 +2,8 @@
 // button, a status panel or the pop-up menu is chosen, and which commands
 // are on.
 
+#include "entryeditor.h"
+#include "gotodialog.h"
 #include "helpwindow.h"
 #include "maincommands.h"
 #include "mainwindow.h"
@@ -36,10 +38,14 @@ bool SystemHasPrinter() { return !QPrinterInfo::availablePrinterNames().isEmpty(
 void MainWindow::SetupCommands()
 {
     m_commands = new MainCommands(*this);
+    m_commands->SetHandler(u"mnu_edit"_s, [this] { EditClick(true); });
+    m_commands->SetHandler(u"mnu_insert"_s, [this] { EditClick(false); });
+    m_commands->SetHandler(u"mnu_goto"_s, [this] { ShowGotoDialog(*this); });
     m_commands->SetHandler(u"mnu_delete"_s, [this] { DeleteClick(); });
     m_commands->SetHandler(u"mnu_Beenden"_s, [this] { close(); });
     m_commands->SetHandler(u"mnu_help"_s, [this] { ShowHelp(this); });
     m_commands->SetHandler(u"mnu_Info"_s, [this] { InfoClick(); });
+    connect(this, &MainWindow::EditRequested, this, [this] { Command(u"mnu_edit"_s)->trigger(); });
     connect(this, &MainWindow::PopupRequested, this,
             [this](const QPoint& globalPos) { m_commands->PopupMenu()->popup(globalPos); });
     connect(m_status, &StatusBar::PanelClicked, this, &MainWindow::StatusPanelClick);
@@ -88,6 +94,13 @@ void MainWindow::CheckDetailsTable()
         m_session->WriteLog(error.number, u"Fehler beim Öffnen der Detail DB: "_s + error.description);
         m_commands->SetEnabled(u"mnu_detail"_s, false);
     }
+}
+
+void MainWindow::EditClick(bool changeSelected)
+{
+    m_session->EditMode = changeSelected;
+    m_session->EditRetry = false;
+    EditEntry(*this);
 }
 
 void MainWindow::DeleteClick()

@@ -5,6 +5,7 @@
 #include "mainwin/mainwindow.h"
 #include "mainwin/twips.h"
 
+#include <QApplication>
 #include <QHeaderView>
 #include <QLabel>
 #include <QProgressBar>
@@ -123,14 +124,30 @@ private Q_SLOTS:
         QVERIFY(view->rowViewportPosition(grid.Row() - 1) >= 0);
         QVERIFY(view->rowViewportPosition(grid.Row() - 1) < view->viewport()->height());
 
+        // Enter and a double click open the editor; it is closed again as
+        // soon as it shows, and so is the pop-up menu.
+        QStringList opened;
+        QTimer closer;
+        connect(&closer, &QTimer::timeout, this, [&] {
+            for (QWidget* shown : {QApplication::activeModalWidget(), QApplication::activePopupWidget()})
+                if (shown) {
+                    opened << shown->objectName();
+                    shown->close();
+                }
+        });
+        closer.start(20);
         QSignalSpy edits(&window, &MainWindow::EditRequested);
         QSignalSpy popups(&window, &MainWindow::PopupRequested);
         QTest::keyClick(view, Qt::Key_Return);
         QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, CellCenter(view, 2, ColAutor));
         QTest::mouseDClick(view->viewport(), Qt::LeftButton, {}, CellCenter(view, 2, ColAutor));
         QCOMPARE(edits.size(), 2);
+        QCOMPARE(opened, (QStringList{u"frm_edit"_s, u"frm_edit"_s}));
         QTest::mouseClick(view->viewport(), Qt::RightButton, {}, CellCenter(view, 6, ColAutor));
         QCOMPARE(popups.size(), 1);
+        QTRY_COMPARE(opened.size(), 3);
+        QCOMPARE(opened.last(), u"mnu_bearbeiten"_s);
+        closer.stop();
         QCOMPARE(grid.Row(), 7);
 
         // The cycle tooltip of a click on column 4 goes to the grid.
