@@ -57,6 +57,8 @@ QString PrepareDataFolder(const QString& base, const QString& allUsersSource, co
     QString dataFolder = base + u"/Quintara/Heftarium"_s;
     if (!HasMarker(dataFolder)) {
         QDir dir;
+        // A fresh account may not have ~/.local/share yet.
+        dir.mkpath(base);
         dir.mkdir(base + u"/Quintara"_s);
         dir.mkdir(dataFolder);
         for (const QString& folder : FirstStartFolders())

@@ -68,9 +68,9 @@ private Q_SLOTS:
     void init()
     {
         m_allUsers = m_root.filePath(u"share/Quintara/Heftarium"_s);
-        m_user = m_root.filePath(u"home-%1"_s.arg(QLatin1String(QTest::currentTestFunction())));
+        // The per-user base does not exist yet, as on a fresh account.
+        m_user = m_root.filePath(u"home-%1/.local/share"_s.arg(QLatin1String(QTest::currentTestFunction())));
         m_app = m_root.filePath(u"app"_s);
-        QDir().mkpath(m_user);
         QDir().mkpath(m_app);
         if (!QFileInfo::exists(m_allUsers))
             MakeAllUsersFolder(m_allUsers);
