@@ -17,7 +17,7 @@ QIcon ToolbarIcon(const QString& key)
         {u"filter"_s, QStyle::SP_FileDialogListView},   {u"stat"_s, QStyle::SP_FileDialogInfoView},
         {u"print"_s, QStyle::SP_DriveFDIcon},           {u"import"_s, QStyle::SP_ArrowDown},
         {u"export"_s, QStyle::SP_ArrowUp},              {u"zykinfo"_s, QStyle::SP_BrowserReload},
-        {u"info"_s, QStyle::SP_MessageBoxInformation},  {u"help"_s, QStyle::SP_DialogHelpButton},
+        {u"info"_s, QStyle::SP_MessageBoxInformation},  {u"help"_s, QStyle::SP_MessageBoxQuestion},
         {u"quit"_s, QStyle::SP_DialogCloseButton},
     };
     return QApplication::style()->standardIcon(pictures.value(key, QStyle::SP_CustomBase));
