@@ -127,16 +127,16 @@ void MainCommands::BuildToolbar(QMainWindow& window)
     m_toolbar->setFloatable(false);
     m_toolbar->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
     m_toolbar->setContextMenuPolicy(Qt::PreventContextMenu);
-    for (const ToolbarButton& spec : ToolbarButtons) {
-        if (spec.key == nullptr) {
+    for (const ToolbarButton& entry : ToolbarButtons) {
+        if (entry.key == nullptr) {
             m_toolbar->addSeparator();
             continue;
         }
-        const QString key = QString::fromUtf16(spec.key);
-        const QString command = QString::fromUtf16(spec.command);
-        auto* button = new QAction(ToolbarIcon(key), QString::fromUtf16(spec.caption), m_toolbar);
+        const QString key = QString::fromUtf16(entry.key);
+        const QString command = QString::fromUtf16(entry.command);
+        auto* button = new QAction(ToolbarIcon(key), QString::fromUtf16(entry.caption), m_toolbar);
         button->setObjectName(key);
-        button->setToolTip(QString::fromUtf16(spec.tooltip));
+        button->setToolTip(QString::fromUtf16(entry.tooltip));
         button->setStatusTip(button->toolTip());
         button->setCheckable(key == u"filter");
         connect(button, &QAction::triggered, this, [this, command] { Run(command); });
