@@ -6,6 +6,7 @@
 #include "startup.h"
 
 #include "core/sqlwriters.h"
+#include "details/detailopener.h"
 #include "mainwin/mainwindow.h"
 #include "mainwin/splashwindow.h"
 
@@ -49,6 +50,7 @@ int main(int argc, char** argv)
 
     heft::MainWindow window;
     window.LoadList(session);
+    heft::InstallDetailWindow(window);
     splash.close();
     QObject::connect(&app, &QCoreApplication::aboutToQuit, [&session] { heft::CloseDatabases(session); });
     return QApplication::exec();
