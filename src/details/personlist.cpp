@@ -149,8 +149,10 @@ bool PersonList::eventFilter(QObject* watched, QEvent* event)
 
 void PersonList::keyPressEvent(QKeyEvent* event)
 {
-    if (IsEnter(event) && m_editMode && currentItem() != nullptr) {
-        EditRow(indexOfTopLevelItem(currentItem()));
+    // The Enter that ends an edit in place comes here too, from the editor;
+    // it must not open the box on the row just edited.
+    if (IsEnter(event) && m_editMode && currentItem() != nullptr && state() != EditingState) {
+        EditRow(indexOfTopLevelItem(currentItem()), event->modifiers().testFlag(Qt::ShiftModifier));
         return;
     }
     QTreeWidget::keyPressEvent(event);
@@ -161,7 +163,7 @@ void PersonList::mouseDoubleClickEvent(QMouseEvent* event)
     QTreeWidgetItem* item = itemAt(event->position().toPoint());
     if (m_editMode && item != nullptr) {
         setCurrentItem(item);
-        EditRow(indexOfTopLevelItem(item));
+        EditRow(indexOfTopLevelItem(item), event->modifiers().testFlag(Qt::ShiftModifier));
     }
 }
 
@@ -173,9 +175,9 @@ void PersonList::mousePressEvent(QMouseEvent* event)
     QTreeWidget::mousePressEvent(event);
 }
 
-void PersonList::EditRow(int row)
+void PersonList::EditRow(int row, bool inPlace)
 {
-    if (QApplication::keyboardModifiers().testFlag(Qt::ShiftModifier)) {
+    if (inPlace) {
         m_editRow = row;
         editItem(topLevelItem(row));
     } else {

@@ -47,9 +47,9 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
 
 private:
-    // Enter or a double click on the row: the box, or with Shift the row
-    // itself, takes the name.
-    void EditRow(int row);
+    // Enter or a double click on the row: the box, or with Shift (inPlace)
+    // the row itself, takes the name.
+    void EditRow(int row, bool inPlace);
     void NameEdited(QTreeWidgetItem* item);
     int TextWidthTwips(const QString& name) const;
     void SetColumnTwips(int twips);
