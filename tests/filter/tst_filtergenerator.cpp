@@ -1,0 +1,364 @@
+// The WHERE text and the sentence each field and comparison word give, the
+// joins of several rows, and the cycle comparison over the cycles a
+// collection uses.
+
+#include "testmain.h"
+#include "testsupport.h"
+
+#include "filter/filtercycles.h"
+#include "filter/filterfields.h"
+#include "filter/filtergenerator.h"
+
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using heft::FilterCriterion;
+using heft::FilterGenerator;
+
+namespace {
+
+enum Compare { Ist, Ungleich, Kleiner, Grosser, Ahnlich = 2 };
+
+const QDate Day(1975, 3, 12);
+
+FilterCriterion Text(int field, int compare, const QString& text, int join = 0)
+{
+    FilterCriterion row;
+    row.field = field;
+    row.compare = compare;
+    row.text = text;
+    row.join = join;
+    return row;
+}
+
+FilterCriterion List(int field, int compare, const QString& entry, int index, int count)
+{
+    FilterCriterion row = Text(field, compare, compare == Ahnlich ? entry : QString());
+    row.listText = entry;
+    row.listIndex = index;
+    row.listCount = count;
+    return row;
+}
+
+FilterCriterion Choice(int field, int compare, int auflage, int yesNo)
+{
+    FilterCriterion row = Text(field, compare, {});
+    row.auflageIndex = auflage;
+    row.yesNoIndex = yesNo;
+    return row;
+}
+
+FilterCriterion Dated(int field, int compare)
+{
+    FilterCriterion row = Text(field, compare, {});
+    row.date = Day;
+    return row;
+}
+
+// A collection whose cycles are I, II and V, beside entries without one.
+struct CycleCollection {
+    CycleCollection()
+    {
+        c.Add({{1, u"Ava Lind"_s, u"Eins"_s, 0, u"I"_s},
+               {2, u"Ava Lind"_s, u"Zwei"_s, 0, u"II"_s},
+               {3, u"Ava Lind"_s, u"Drei"_s, 0, u"- - -"_s},
+               {4, u"Ava Lind"_s, u"Vier"_s, 0, u"V"_s},
+               {5, u"Ava Lind"_s, u"Fünf"_s, 0, u"II"_s}});
+    }
+    heft::test::TempCollection c;
+};
+
+} // namespace
+
+Q_DECLARE_METATYPE(FilterCriterion)
+
+class TestFilterGenerator : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void fieldTable()
+    {
+        // The list entries double as column names and sentence labels.
+        const auto& fields = heft::FilterFields();
+        QCOMPARE(fields[8].entry, u"Person");
+        QCOMPARE(fields[16].label, u"Letzte Änderung");
+        QCOMPARE(fields[37].entry, u"Serienlink");
+        for (int f = 17; f < heft::FilterFieldCount; ++f)
+            QCOMPARE(fields[static_cast<size_t>(f)].label, fields[static_cast<size_t>(f)].entry);
+        QCOMPARE(heft::CompareWords(21), (QStringList{u"IST"_s, u"UNGLEICH"_s, u"KLEINER"_s, u"GRÖßER"_s}));
+        QCOMPARE(heft::CompareWords(36), (QStringList{u"IST"_s, u"UNGLEICH"_s, u"ÄHNLICH"_s}));
+        QCOMPARE(heft::CompareWords(13), QStringList{u"IST"_s});
+        QCOMPARE(heft::AuflageEntries(3), (QStringList{u"Keine"_s, u"-1-"_s, u"-2-"_s, u"-3-"_s}));
+    }
+
+    void valueLists()
+    {
+        heft::test::TempCollection c;
+        c.Add({{1, u"Ava Lind"_s, u"Eins"_s}, {2, u" Bo Kern "_s, u"Zwei"_s}, {3, u" "_s, u"Drei"_s}});
+        c.Exec(u"INSERT INTO Status (Nr, ENum, StatusWert) VALUES (1, 3, 'gut'), (2, 3, ''), (3, 3, 'mäßig');"_s);
+        // Blank values are dropped, the rest trimmed after the query sorted
+        // them; only Autor has no <LEER>.
+        QCOMPARE(heft::ValueListEntries(*c.session.CollectionDb, 1), (QStringList{u"Bo Kern"_s, u"Ava Lind"_s}));
+        QCOMPARE(heft::ValueListEntries(*c.session.CollectionDb, 18),
+                 (QStringList{u"gut"_s, u"mäßig"_s, u"<LEER>"_s}));
+        QCOMPARE(heft::ValueListEntries(*c.session.CollectionDb, 37), QStringList{u"<LEER>"_s});
+    }
+
+    void oneRow_data()
+    {
+        QTest::addColumn<FilterCriterion>("row");
+        QTest::addColumn<QString>("where");
+        QTest::addColumn<QString>("sentence");
+        QTest::addColumn<QString>("shown");
+
+        auto add = [](const char* name, const FilterCriterion& row, const QString& where, const QString& sentence,
+                      const QString& shown = QString()) {
+            QTest::newRow(name) << row << where << sentence << (shown.isNull() ? row.text : shown);
+        };
+        add("Nr capped", Text(0, Ist, u"123456"_s), u"h.Nr=99999 "_s, u"Nummer = 99999 "_s, u"99999"_s);
+        add("Nr small", Text(0, Grosser, u"42"_s), u"h.Nr>42 "_s, u"Nummer größer als 42 "_s);
+        add("Autor apostrophe", List(1, Ungleich, u"O'Brien"_s, 1, 3), u"h.Autor<>'O''Brien' "_s,
+            u"Autor ungleich 'O''Brien' "_s);
+        add("Autor last entry no guard", List(1, Ist, u"Zed"_s, 2, 3), u"h.Autor='Zed' "_s, u"Autor = 'Zed' "_s);
+        add("Autor like", List(1, Ahnlich, u"Berg"_s, 0, 3), u"h.Autor LIKE '*Berg*' "_s,
+            u"Autor ähnlich wie '*Berg*' "_s, u"*Berg*"_s);
+        add("Titel like", Text(2, Ahnlich, u"Sonne"_s), u"h.Titel LIKE '*Sonne*' "_s,
+            u"Titel ähnlich wie '*Sonne*' "_s, u"*Sonne*"_s);
+        add("Titel own pattern", Text(2, Ahnlich, u"*Sonne"_s), u"h.Titel LIKE '*Sonne' "_s,
+            u"Titel ähnlich wie '*Sonne' "_s);
+        add("Titel empty", Text(2, Ist, QString()), u"h.Titel='' "_s, u"Titel = <LEER> "_s);
+        add("Auflage second", Choice(3, Kleiner, 2, 0), u"h.Auflage<2 "_s, u"Auflage kleiner als 2 "_s);
+        add("Auflage none", Choice(3, Ist, 0, 0), u"h.Auflage=0 "_s, u"Auflage = Keine "_s);
+        add("Zyklus capitals", Text(4, Ist, u"ii"_s), u"h.Zyklus='II' "_s, u"Zyklus = 'II' "_s, u"II"_s);
+        add("Zyklus none as is", Text(4, Ungleich, u"- - -"_s), u"h.Zyklus<>'- - -' "_s,
+            u"Zyklus ungleich '- - -' "_s);
+        add("Zyklus number", Text(4, Grosser, u"12"_s), u"(h.Zyklus='-0') "_s, u"Zyklus größer als 'XII' "_s,
+            u"XII"_s);
+        add("Gelesen Ja", Choice(5, Ist, 0, 0), u"h.GL=-1 "_s, u"Gelesen = Ja "_s);
+        add("Gelesen Nein", Choice(5, Ist, 0, 1), u"h.GL=0 "_s, u"Gelesen = Nein "_s);
+        add("Bemerkung empty", Text(6, Ungleich, QString()), u"h.Bemerkung<>'' "_s,
+            u"Bemerkung ungleich <LEER> "_s);
+        add("Untertitel apostrophe", Text(7, Ist, u"Rück'kehr"_s), u"d.Untertitel='Rück''kehr' "_s,
+            u"Untertitel = 'Rück''kehr' "_s);
+        add("Person ungleich", Text(8, Ungleich, u"Meier"_s),
+            u"(d.Person1<>'Meier' AND d.Person2<>'Meier' AND d.Person3<>'Meier' AND d.Person4<>'Meier' "
+            "AND d.Person5<>'Meier' AND d.Person6<>'Meier' AND d.Person7<>'Meier' AND d.Person8<>'Meier' "
+            "AND d.Person9<>'Meier' ) "_s,
+            u"Person ungleich 'Meier'  "_s);
+        add("Person like", Text(8, Ahnlich, u"Kra"_s),
+            u"(d.Person1 LIKE '*Kra*' OR d.Person2 LIKE '*Kra*' OR d.Person3 LIKE '*Kra*' OR d.Person4 LIKE "
+            "'*Kra*' OR d.Person5 LIKE '*Kra*' OR d.Person6 LIKE '*Kra*' OR d.Person7 LIKE '*Kra*' OR "
+            "d.Person8 LIKE '*Kra*' OR d.Person9 LIKE '*Kra*' ) "_s,
+            u"Person ähnlich wie '*Kra*'  "_s, u"*Kra*"_s);
+        add("Inhalt like nothing", Text(9, Ahnlich, QString()), u"d.Inhalt LIKE '**' "_s,
+            u"Inhalt ähnlich wie '**' "_s, u"**"_s);
+        add("Datum", Dated(10, Grosser), u"d.Ersterscheinung>DateValue('12.03.1975') "_s,
+            u"Ersterscheinung größer als 12-03-1975 "_s);
+        add("TiBiZeichner guarded", List(11, Ist, u"Hal Torn"_s, 0, 3),
+            u"g.TiBiZeichner='Hal Torn' AND g.TiBiZeichner<>'' "_s, u"TiBiZeichner = 'Hal Torn' "_s);
+        add("IlluZeichner empty", List(12, Ist, u"<LEER>"_s, 2, 3), u"g.IlluZeichner='' "_s,
+            u"IlluZeichner = <LEER> "_s);
+        add("Rißzeichnung", Choice(13, Ist, 0, 1), u"g.RZ=0 "_s, u"Rißzeichnung = Nein "_s);
+        add("RiZeObjekt", Text(14, Ungleich, u"Kreuzer"_s), u"g.RiZeObjekt<>'Kreuzer' "_s,
+            u"RiZeObjekt ungleich 'Kreuzer' "_s);
+        // The hidden list stands at its first entry, so the guard stays.
+        add("RiZeZeichner like", List(15, Ahnlich, u"Torn"_s, 0, 2),
+            u"g.RiZeZeichner LIKE '*Torn*' AND g.RiZeZeichner<>'' "_s, u"RiZeZeichner ähnlich wie '*Torn*' "_s,
+            u"*Torn*"_s);
+        add("Stamp ist", Dated(16, Ist), u"(s.StatusWert LIKE '1975-03-12*' AND s.ENum=1) "_s,
+            u"Letzte Änderung = 12-03-1975 "_s);
+        add("Stamp ungleich", Dated(16, Ungleich), u"(s.StatusWert NOT LIKE '1975-03-12*' AND s.ENum=1) "_s,
+            u"Letzte Änderung ungleich 12-03-1975 "_s);
+        add("Stamp kleiner", Dated(16, Kleiner), u"(s.StatusWert<'1975-03-12' AND s.ENum=1) "_s,
+            u"Letzte Änderung kleiner als 12-03-1975 "_s);
+        add("Exemplare empty", Text(17, Ist, QString()), u"(s.StatusWert='' AND s.ENum=2) "_s,
+            u"Exemplare = <LEER> "_s);
+        add("Exemplare blanks", Text(17, Grosser, u" 3 "_s),
+            u"(s.StatusWert>'0000003' AND s.StatusWert<>'' AND s.ENum=2) "_s, u"Exemplare größer als  3  "_s);
+        add("Zustand empty", List(18, Ist, u"<LEER>"_s, 2, 3), u"(s.StatusWert='' AND s.ENum=3) "_s,
+            u"Zustand = <LEER> "_s);
+        add("Zustand gut", List(18, Ist, u"gut"_s, 0, 3),
+            u"(s.StatusWert='gut' AND s.StatusWert<>'' AND s.ENum=3) "_s, u"Zustand = 'gut' "_s);
+        add("Verkäufer like, list of one", List(19, Ahnlich, u"*Hof"_s, 0, 1),
+            u"(s.StatusWert LIKE '*Hof' AND s.ENum=4) "_s, u"Verkäufer ähnlich wie '*Hof' "_s);
+        add("Kaufpreis loses its front", Text(20, Kleiner, u"123456789"_s),
+            u"(s.StatusWert<'3456789' AND s.StatusWert<>'' AND s.ENum=5) "_s,
+            u"Kaufpreis kleiner als 123456789 € "_s);
+        add("Wert", Text(21, Grosser, u"20"_s), u"(s.StatusWert>'0000020' AND s.StatusWert<>'' AND s.ENum=6) "_s,
+            u"Wert größer als 20 € "_s);
+        add("Lagerort", List(22, Ungleich, u"Keller"_s, 1, 3),
+            u"(s.StatusWert<>'Keller' AND s.StatusWert<>'' AND s.ENum=7) "_s, u"Lagerort ungleich 'Keller' "_s);
+        add("ISBN not padded", Text(23, Ist, u"3453"_s),
+            u"(s.StatusWert='3453' AND s.StatusWert<>'' AND s.ENum=8) "_s, u"ISBN = 3453 "_s);
+        add("Verlag", List(24, Ist, u"Nordlicht"_s, 0, 2),
+            u"(s.StatusWert='Nordlicht' AND s.StatusWert<>'' AND s.ENum=9) "_s, u"Verlag = 'Nordlicht' "_s);
+        add("Seitenzahl", Text(25, Ungleich, u"64"_s),
+            u"(s.StatusWert<>'0000064' AND s.StatusWert<>'' AND s.ENum=10) "_s, u"Seitenzahl ungleich 64 "_s);
+        add("Format empty", List(26, Ist, u"<LEER>"_s, 1, 2), u"(s.StatusWert='' AND s.ENum=11) "_s,
+            u"Format = <LEER> "_s);
+        add("Coverart", List(27, Ungleich, u"Foto"_s, 0, 2),
+            u"(s.StatusWert<>'Foto' AND s.StatusWert<>'' AND s.ENum=12) "_s, u"Coverart ungleich 'Foto' "_s);
+        add("Genre like", List(28, Ahnlich, u"Raum"_s, 0, 3),
+            u"(s.StatusWert LIKE '*Raum*' AND s.StatusWert<>'' AND s.ENum=13) "_s, u"Genre ähnlich wie '*Raum*' "_s,
+            u"*Raum*"_s);
+        add("Sprache", List(29, Ist, u"Deutsch"_s, 0, 2),
+            u"(s.StatusWert='Deutsch' AND s.StatusWert<>'' AND s.ENum=14) "_s, u"Sprache = 'Deutsch' "_s);
+        add("Übersetzer apostrophe", List(30, Ist, u"A'Lan"_s, 0, 2),
+            u"(s.StatusWert='A''Lan' AND s.StatusWert<>'' AND s.ENum=15) "_s, u"Übersetzer = 'A''Lan' "_s);
+        add("Originaltitel like", Text(31, Ahnlich, u"Sun"_s), u"(s.StatusWert LIKE '*Sun*' AND s.ENum=16) "_s,
+            u"Originaltitel ähnlich wie '*Sun*' "_s, u"*Sun*"_s);
+        add("Verliehen an", List(32, Ist, u"Jo"_s, 0, 2),
+            u"(s.StatusWert='Jo' AND s.StatusWert<>'' AND s.ENum=17) "_s, u"Verliehen an = 'Jo' "_s);
+        add("Verleihdatum", Dated(33, Grosser),
+            u"(s.StatusWert>'1975-03-12' AND s.StatusWert<>'' AND s.ENum=18) "_s,
+            u"Verleihdatum größer als 12-03-1975 "_s);
+        add("Kritik apostrophe", Text(34, Ungleich, u"gut's"_s), u"(s.StatusWert<>'gut''s' AND s.ENum=19) "_s,
+            u"Kritik ungleich 'gut''s' "_s);
+        add("Link zu", Text(35, Kleiner, u"40"_s), u"l.LinkNum<40 "_s, u"Link zu kleiner als 40 "_s);
+        add("Linktext", Text(36, Ist, u"Vorgeschichte"_s), u"l.LinkText='Vorgeschichte' "_s,
+            u"Linktext = 'Vorgeschichte' "_s);
+        add("Serienlink empty", List(37, Ist, u"<LEER>"_s, 0, 1), u"l.LinkSerie='' "_s, u"Serienlink = <LEER> "_s);
+        add("Serienlink guarded", List(37, Ist, u"Nebenreihe"_s, 0, 2),
+            u"l.LinkSerie='Nebenreihe' AND l.LinkSerie<>'' "_s, u"Serienlink = 'Nebenreihe' "_s);
+    }
+
+    void oneRow()
+    {
+        QFETCH(FilterCriterion, row);
+        QFETCH(QString, where);
+        QFETCH(QString, sentence);
+        QFETCH(QString, shown);
+        CycleCollection cycles;
+        const heft::FilterOutcome outcome = FilterGenerator(cycles.c.session).Generate({row});
+        QVERIFY(!outcome.rejected);
+        QCOMPARE(outcome.where, where);
+        QCOMPARE(outcome.text, sentence);
+        QCOMPARE(outcome.shownTexts, QList<QString>{shown});
+    }
+
+    void joinedRows_data()
+    {
+        QTest::addColumn<QList<FilterCriterion>>("rows");
+        QTest::addColumn<QString>("where");
+        QTest::addColumn<QString>("sentence");
+        QTest::newRow("UND") << QList<FilterCriterion>{Text(2, Ahnlich, u"Sonne"_s, 1), Text(21, Grosser, u"20"_s)}
+                             << u"h.Titel LIKE '*Sonne*' AND (s.StatusWert>'0000020' AND s.StatusWert<>'' AND "
+                                "s.ENum=6) "_s
+                             << u"Titel ähnlich wie '*Sonne*' UND Wert größer als 20 € "_s;
+        FilterCriterion read = Choice(5, Ist, 0, 0);
+        read.join = 3;
+        QTest::newRow("EXOR then ODER, left to right")
+            << QList<FilterCriterion>{read, Text(0, Kleiner, u"5"_s, 2), Text(8, Ist, u"Kern"_s)}
+            << u"h.GL=-1 XOR h.Nr<5 OR (d.Person1='Kern' OR d.Person2='Kern' OR d.Person3='Kern' OR "
+               "d.Person4='Kern' OR d.Person5='Kern' OR d.Person6='Kern' OR d.Person7='Kern' OR d.Person8='Kern' "
+               "OR d.Person9='Kern' ) "_s
+            << u"Gelesen = Ja ENTWEDER ODER Nummer kleiner als 5 ODER Person = 'Kern'  "_s;
+    }
+
+    void joinedRows()
+    {
+        QFETCH(QList<FilterCriterion>, rows);
+        QFETCH(QString, where);
+        QFETCH(QString, sentence);
+        CycleCollection cycles;
+        const heft::FilterOutcome outcome = FilterGenerator(cycles.c.session).Generate(rows);
+        QCOMPARE(outcome.where, where);
+        QCOMPARE(outcome.text, sentence);
+        QCOMPARE(outcome.sql, u"SELECT DISTINCT h.nr, h.autor, h.titel, h.auflage, h.zyklus, h.gl, h.bemerkung "
+                              "FROM ((((HEFTLIST h LEFT JOIN DETAILS d ON h.nr=d.nr) LEFT JOIN Gestaltung g ON "
+                              "h.nr=g.nr) LEFT JOIN Status s ON h.nr=s.nr) LEFT JOIN Links l ON h.nr=l.nr) WHERE "_s +
+                                  where + u"ORDER BY h.Nr;"_s);
+    }
+
+    void cycles_data()
+    {
+        QTest::addColumn<QString>("value");
+        QTest::addColumn<int>("compare");
+        QTest::addColumn<QString>("where");
+        QTest::addColumn<QString>("sentence");
+        QTest::newRow("below the lowest") << u"I"_s << int(Kleiner) << u"(h.Zyklus='-0') "_s
+                                          << u"Zyklus kleiner als 'I' "_s;
+        QTest::newRow("below a gap") << u"III"_s << int(Kleiner) << u"(h.Zyklus='I' OR h.Zyklus='II') "_s
+                                     << u"Zyklus kleiner als 'III' "_s;
+        QTest::newRow("below beyond all") << u"X"_s << int(Kleiner)
+                                          << u"(h.Zyklus='I' OR h.Zyklus='II' OR h.Zyklus='V') "_s
+                                          << u"Zyklus kleiner als 'X' "_s;
+        QTest::newRow("above the lowest") << u"I"_s << int(Grosser) << u"(h.Zyklus='II' OR h.Zyklus='V') "_s
+                                          << u"Zyklus größer als 'I' "_s;
+        QTest::newRow("above an existing") << u"II"_s << int(Grosser) << u"(h.Zyklus='V') "_s
+                                           << u"Zyklus größer als 'II' "_s;
+        // A value between cycles loses the next higher one as well.
+        QTest::newRow("above a gap finds nothing") << u"III"_s << int(Grosser) << u"(h.Zyklus='-0') "_s
+                                                   << u"Zyklus größer als 'III' "_s;
+        QTest::newRow("above nothing") << QString() << int(Grosser)
+                                       << u"(h.Zyklus='I' OR h.Zyklus='II' OR h.Zyklus='V') "_s
+                                       << u"Zyklus größer als <LEER> "_s;
+        QTest::newRow("none compared as text") << u"- - -"_s << int(Grosser) << u"h.Zyklus>'- - -' "_s
+                                               << u"Zyklus größer als '- - -' "_s;
+    }
+
+    void cycles()
+    {
+        QFETCH(QString, value);
+        QFETCH(int, compare);
+        QFETCH(QString, where);
+        QFETCH(QString, sentence);
+        CycleCollection cycles;
+        FilterGenerator generator(cycles.c.session);
+        const heft::FilterOutcome outcome = generator.Generate({Text(4, compare, value)});
+        QCOMPARE(outcome.where, where);
+        QCOMPARE(outcome.text, sentence);
+        // The operator blanked for the cycle list does not outlive its row.
+        QCOMPARE(generator.Generate({Text(4, compare, value, 1), Text(0, compare, u"7"_s)}).where,
+                 where + u"AND h.Nr"_s + (compare == Kleiner ? u"<"_s : u">"_s) + u"7 "_s);
+    }
+
+    void singleCycle_data()
+    {
+        QTest::addColumn<int>("value");
+        QTest::addColumn<bool>("smaller");
+        QTest::addColumn<QString>("right");
+        QTest::newRow("smaller, same") << 5 << true << u"'-0'"_s;
+        QTest::newRow("smaller, above") << 6 << true << u"='V'"_s;
+        QTest::newRow("greater, same") << 5 << false << u"'-0'"_s;
+        QTest::newRow("greater, below") << 4 << false << u"='V'"_s;
+    }
+
+    void singleCycle()
+    {
+        QFETCH(int, value);
+        QFETCH(bool, smaller);
+        QFETCH(QString, right);
+        QCOMPARE(heft::CyclesBeyond({{5, u"V"_s}}, value, smaller).right, right);
+    }
+
+    void refusedCycle_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("shown");
+        QTest::newRow("zero") << u"0"_s << u"- - -"_s;
+        QTest::newRow("letters") << u"abc"_s << u"- - -"_s;
+    }
+
+    void refusedCycle()
+    {
+        QFETCH(QString, typed);
+        QFETCH(QString, shown);
+        CycleCollection cycles;
+        FilterGenerator generator(cycles.c.session);
+        heft::FilterOutcome outcome =
+            generator.Generate({Text(2, Ist, u"Sonne"_s, 1), Text(4, Kleiner, typed)});
+        QVERIFY(outcome.rejected);
+        QCOMPARE(outcome.rejectedRow, 1);
+        QVERIFY(outcome.where.isEmpty());
+        QVERIFY(outcome.sql.isEmpty());
+        QCOMPARE(outcome.shownTexts[1], shown);
+        // The next press passes with the text now shown.
+        outcome = generator.Generate({Text(2, Ist, u"Sonne"_s, 1), Text(4, Kleiner, outcome.shownTexts[1])});
+        QVERIFY(!outcome.rejected);
+        QCOMPARE(outcome.where, u"h.Titel='Sonne' AND h.Zyklus<'- - -' "_s);
+    }
+};
+
+HEFT_TEST(TestFilterGenerator)
+#include "tst_filtergenerator.moc"
