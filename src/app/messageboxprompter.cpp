@@ -1,6 +1,7 @@
 #include "messageboxprompter.h"
 
 #include <QApplication>
+#include <QHash>
 #include <QMessageBox>
 
 namespace heft {
@@ -24,6 +25,12 @@ Answer MessageBoxPrompter::Ask(const Message& message)
     QString text = message.text;
     text.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(u'\r', u'\n');
     QMessageBox box(icon, message.title, text, buttons, QApplication::activeWindow());
+    if (message.defaultButton) {
+        static const QHash<Answer, QMessageBox::StandardButton> buttonOf = {
+            {Answer::Ok, QMessageBox::Ok}, {Answer::Cancel, QMessageBox::Cancel},
+            {Answer::Yes, QMessageBox::Yes}, {Answer::No, QMessageBox::No}};
+        box.setDefaultButton(buttonOf.value(*message.defaultButton));
+    }
     switch (box.exec()) {
     case QMessageBox::Cancel: return Answer::Cancel;
     case QMessageBox::Yes: return Answer::Yes;

@@ -5,6 +5,8 @@
 #include <QList>
 #include <QString>
 
+#include <optional>
+
 namespace heft {
 
 enum class MessageIcon { None, Information, Question, Exclamation, Critical };
@@ -16,6 +18,8 @@ struct Message {
     QString text;
     MessageIcon icon = MessageIcon::None;
     MessageButtons buttons = MessageButtons::Ok;
+    // The button Enter presses; the first one when not given.
+    std::optional<Answer> defaultButton = std::nullopt;
 };
 
 class Prompter {

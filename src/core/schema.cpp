@@ -30,7 +30,9 @@ QStringList BaseTableStatements()
         details << TextColumnSql(u"Details"_s, u"Person%1"_s.arg(i), 50, true);
     details << TextColumnSql(u"Details"_s, u"Inhalt"_s, 0, true);
     statements << u"CREATE TABLE Details ("_s + details.join(u", "_s) + u')';
-    statements << u"CREATE INDEX INDET ON Details (Nr)"_s;
+    // At most one details row per entry: the detail window's save relies on
+    // the duplicate key to turn its insert into an update.
+    statements << u"CREATE UNIQUE INDEX INDET ON Details (Nr)"_s;
 
     statements << u"CREATE TABLE KONFIGURATION (Serie TEXT(50), Liste TEXT(50), Logo TEXT(255), "
                   "Splash TEXT(255));"_s;

@@ -395,7 +395,7 @@ void DetailWindow::reject()
         const Answer answer = m_session.prompter->Ask(
             {u"Sicherheits Rückfrage"_s,
              u"Es wurden Änderungen an den\rDetaildaten vorgenommen.\r\rSchließen ohne zu speichern?"_s,
-             MessageIcon::Question, MessageButtons::OkCancel});
+             MessageIcon::Question, MessageButtons::OkCancel, Answer::Cancel});
         if (answer != Answer::Ok)
             return;
     }
