@@ -7,6 +7,7 @@
 
 #include "core/sqlwriters.h"
 #include "details/detailopener.h"
+#include "filter/filtermode.h"
 #include "mainwin/mainwindow.h"
 #include "mainwin/splashwindow.h"
 
@@ -51,6 +52,7 @@ int main(int argc, char** argv)
     heft::MainWindow window;
     window.LoadList(session);
     heft::InstallDetailWindow(window);
+    heft::InstallFilterMode(window);
     splash.close();
     QObject::connect(&app, &QCoreApplication::aboutToQuit, [&session] { heft::CloseDatabases(session); });
     return QApplication::exec();
