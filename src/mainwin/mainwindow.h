@@ -48,6 +48,9 @@ public:
     // Opens the detail window on the current entry, modal; nothing if the
     // program has none.
     void OpenDetails(bool editMode);
+    // In a filter list "insert" fills a column over the whole list; that
+    // window lives in the filter library, which hands it in here.
+    void SetColumnFillOpener(std::function<void()> opener) { m_columnFillOpener = std::move(opener); }
     // mnu_stat: statistics need at least two entries in the full list.
     void StatisticsClick(const std::function<void()>& openStatistics);
 
@@ -100,6 +103,7 @@ private:
     bool m_progressCursor = false;
     bool m_detailsTableReadable = true;
     std::function<void(bool)> m_detailOpener;
+    std::function<void()> m_columnFillOpener;
 };
 
 } // namespace heft

@@ -98,6 +98,10 @@ void MainWindow::CheckDetailsTable()
 
 void MainWindow::EditClick(bool changeSelected)
 {
+    if (!changeSelected && IsFilterMode() && m_columnFillOpener) {
+        m_columnFillOpener();
+        return;
+    }
     m_session->EditMode = changeSelected;
     m_session->EditRetry = false;
     EditEntry(*this);
