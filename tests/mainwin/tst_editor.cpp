@@ -142,36 +142,65 @@ class TestEditor : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void editTitle()
+    // Changing an entry and inserting one run through the same dialog; a new
+    // entry starts as a copy of the selected one.
+    void editAndInsert_data()
     {
-        Editor editor({1, 2, 3, 4, 5});
+        QTest::addColumn<bool>("editing");
+        QTest::addColumn<QList<int>>("numbers");
+        QTest::addColumn<int>("selected");
+        QTest::addColumn<QStringList>("shown");
+        QTest::addColumn<QStringList>("listed");
+        QTest::newRow("edit") << true << QList<int>{1, 2, 3, 4, 5} << 4
+                              << QStringList{u"Eintrag Editieren ..."_s, u"4"_s, u"Autor 4"_s, u"Titel 4"_s, u"-1-"_s,
+                                             u"IV"_s, u"Ja"_s, u"Bem 4"_s}
+                              << QStringList{u"1"_s, u"2"_s, u"3"_s, u"4"_s, u"5"_s};
+        QTest::newRow("insert after the last row")
+            << false << QList<int>{1, 2, 4, 5} << 5
+            << QStringList{u"Eintrag Einfügen ..."_s, u"6"_s, u"Autor 5"_s, u"- Kein Titel -"_s, u"-2-"_s, u"IV"_s,
+                           u"Nein"_s, u"Bem 5"_s}
+            << QStringList{u"1"_s, u"2"_s, u"4"_s, u"5"_s, u"6"_s};
+    }
+    void editAndInsert()
+    {
+        QFETCH(bool, editing);
+        QFETCH(QList<int>, numbers);
+        QFETCH(int, selected);
+        QFETCH(QStringList, shown);
+        QFETCH(QStringList, listed);
+        Editor editor(numbers);
         EditDialogScript script;
-        QStringList shown;
-        const QPushButton* details = nullptr;
+        QStringList seen;
+        bool detailsHidden = false;
         bool detailsEnabled = true;
         script.Then([&](QDialog& dialog) {
-            shown = Shown(dialog);
-            details = dialog.findChild<QPushButton*>(u"btn_details"_s);
-            QVERIFY(!details->isHidden());
+            seen = Shown(dialog);
+            const auto* details = dialog.findChild<QPushButton*>(u"btn_details"_s);
+            detailsHidden = details->isHidden();
             detailsEnabled = details->isEnabled();
             Type(dialog, u"txt_titel"_s, u"Im Schatten von O'Taran"_s);
             Press(dialog, u"cmd_ok"_s);
         });
-        editor.Run(4, true);
+        editor.Run(selected, editing);
 
-        QCOMPARE(shown, QStringList({u"Eintrag Editieren ..."_s, u"4"_s, u"Autor 4"_s, u"Titel 4"_s, u"-1-"_s, u"IV"_s,
-                                     u"Ja"_s, u"Bem 4"_s}));
-        QCOMPARE(detailsEnabled, editor.window.IsCommandEnabled(u"mnu_detail"_s));
+        const int nr = shown[1].toInt();
+        QCOMPARE(seen, shown);
+        QCOMPARE(detailsHidden, !editing);
+        if (editing)
+            QCOMPARE(detailsEnabled, editor.window.IsCommandEnabled(u"mnu_detail"_s));
         // A plain change asks nothing: the insert met its own row.
         QVERIFY(editor.collection.prompter.asked.isEmpty());
-        QCOMPARE(editor.Stored(u"Titel"_s, 4), u"Im Schatten von O'Taran"_s);
-        QCOMPARE(editor.Stored(u"Autor"_s, 4), u"Autor 4"_s);
-        QCOMPARE(editor.Stored(u"GL"_s, 4), u"-1"_s);
-        QCOMPARE(editor.collection.Value(u"SELECT COUNT(*) FROM HEFTLIST;"_s).toInt(), 5);
-        QCOMPARE(editor.Current(ColNr), u"4"_s);
+        QCOMPARE(editor.Stored(u"Titel"_s, nr), u"Im Schatten von O'Taran"_s);
+        QCOMPARE(editor.Stored(u"Autor"_s, nr), shown[2]);
+        QCOMPARE(editor.Stored(u"Bemerkung"_s, nr), shown[7]);
+        QCOMPARE(editor.Stored(u"GL"_s, nr), shown[6] == u"Ja"_s ? u"-1"_s : u"0"_s);
+        QCOMPARE(NrColumn(editor.Full()), listed);
+        QCOMPARE(editor.Current(ColNr), shown[1]);
         QCOMPARE(editor.Current(ColTitel), u"Im Schatten von O'Taran"_s);
-        QCOMPARE(editor.Current(ColGelesen), ReadMarkText());
-        const QString stamp = editor.collection.Value(u"SELECT StatusWert FROM Status WHERE Nr=4 AND ENum=1;"_s).toString();
+        QCOMPARE(editor.Current(ColGelesen), shown[6] == u"Ja"_s ? ReadMarkText() : QString());
+        QCOMPARE(editor.window.List().HighestNr, listed.last().toInt());
+        const QString stamp =
+            editor.collection.Value(u"SELECT StatusWert FROM Status WHERE Nr=%1 AND ENum=1;"_s.arg(nr)).toString();
         QVERIFY2(QRegularExpression(u"^\\d{4}-\\d\\d-\\d\\d um \\d\\d:\\d\\d:\\d\\d$"_s).match(stamp).hasMatch(),
                  qPrintable(stamp));
     }
@@ -255,31 +284,6 @@ private Q_SLOTS:
         QCOMPARE(editor.Stored(u"Titel"_s, 2), u"Titel 2"_s);
         QCOMPARE(editor.collection.Value(u"SELECT COUNT(*) FROM HEFTLIST;"_s).toInt(), 5);
         QCOMPARE(editor.Full().Rows(), 6);
-    }
-
-    void insertAfterLastRow()
-    {
-        Editor editor({1, 2, 4, 5});
-        EditDialogScript script;
-        QStringList shown;
-        script.Then([&](QDialog& dialog) {
-            shown = Shown(dialog);
-            QVERIFY(dialog.findChild<QPushButton*>(u"btn_details"_s)->isHidden());
-            Type(dialog, u"txt_titel"_s, u"Neuland"_s);
-            Press(dialog, u"cmd_ok"_s);
-        });
-        editor.Run(5, false);
-
-        // A new entry starts as a copy of the selected one.
-        QCOMPARE(shown, QStringList({u"Eintrag Einfügen ..."_s, u"6"_s, u"Autor 5"_s, u"- Kein Titel -"_s, u"-2-"_s,
-                                     u"IV"_s, u"Nein"_s, u"Bem 5"_s}));
-        QCOMPARE(editor.Stored(u"Titel"_s, 6), u"Neuland"_s);
-        QCOMPARE(editor.Stored(u"Autor"_s, 6), u"Autor 5"_s);
-        QCOMPARE(editor.Stored(u"Bemerkung"_s, 6), u"Bem 5"_s);
-        QCOMPARE(NrColumn(editor.Full()), QStringList({u"1"_s, u"2"_s, u"4"_s, u"5"_s, u"6"_s}));
-        QCOMPARE(editor.Current(ColNr), u"6"_s);
-        QCOMPARE(editor.window.List().HighestNr, 6);
-        QVERIFY(!editor.collection.Value(u"SELECT StatusWert FROM Status WHERE Nr=6 AND ENum=1;"_s).isNull());
     }
 
     void nextFreeNr_data()
@@ -454,22 +458,18 @@ private Q_SLOTS:
         }
     }
 
-    // Both captions, for the eye: /tmp/edit-editieren.png, /tmp/edit-einfuegen.png.
-    void screenshots()
+    // For the eye: /tmp/edit-editieren.png.
+    void screenshot()
     {
         Editor editor({1, 2, 3});
         editor.window.List().FindAndShowRow(2);
-        for (const bool editing : {true, false}) {
-            editor.collection.session.EditMode = editing;
-            EditDialog dialog(editor.window);
-            dialog.show();
-            QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-            const QWidget* titel = Box(dialog, u"txt_titel"_s);
-            QVERIFY(titel->width() >= titel->fontMetrics().horizontalAdvance(QString(50, u'n')) * 3 / 4);
-            QVERIFY(dialog.findChild<QPushButton*>(u"cmd_ok"_s)->width() >=
-                    dialog.findChild<QPushButton*>(u"cmd_ok"_s)->sizeHint().width());
-            dialog.grab().save(editing ? u"/tmp/edit-editieren.png"_s : u"/tmp/edit-einfuegen.png"_s);
-        }
+        editor.collection.session.EditMode = true;
+        EditDialog dialog(editor.window);
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+        const QWidget* titel = Box(dialog, u"txt_titel"_s);
+        QVERIFY(titel->width() >= titel->fontMetrics().horizontalAdvance(QString(50, u'n')) * 3 / 4);
+        dialog.grab().save(u"/tmp/edit-editieren.png"_s);
     }
 };
 

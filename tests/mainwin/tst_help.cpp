@@ -146,8 +146,8 @@ private Q_SLOTS:
             QTest::newRow(qPrintable(page)) << page;
     }
     // Each page renders with its title, reaches every other page through
-    // its navigation bar, and has no link that leads nowhere. The pictures
-    // in /tmp are for the eye.
+    // its navigation bar, and has no link that leads nowhere. The picture of
+    // the index page in /tmp is for the eye.
     void pages()
     {
         QFETCH(QString, page);
@@ -169,7 +169,8 @@ private Q_SLOTS:
         }
         for (const QString& target : targets)
             QVERIFY2(QFileInfo::exists(QDir(Manual).filePath(QUrl(target).path())), qPrintable(target));
-        window.grab().save(u"/tmp/help_%1.png"_s.arg(QFileInfo(page).baseName()));
+        if (page == u"index.html"_s)
+            window.grab().save(u"/tmp/help_index.png"_s);
     }
 };
 

@@ -180,12 +180,8 @@ private Q_SLOTS:
         QTest::addColumn<QString>("target"); // empty: a key press
         QTest::addColumn<int>("key");
         QTest::newRow("letter") << QString() << int(Qt::Key_A);
-        QTest::newRow("space") << QString() << int(Qt::Key_Space);
         QTest::newRow("function key") << QString() << int(Qt::Key_F5);
         QTest::newRow("image") << u"imgLogo"_s << 0;
-        QTest::newRow("product name") << u"lblProductName"_s << 0;
-        QTest::newRow("warning") << u"lblWarning"_s << 0;
-        QTest::newRow("platform") << u"lblPlatform"_s << 0;
         QTest::newRow("maker") << u"lblCopyright"_s << 0;
     }
     void closes()
