@@ -28,7 +28,7 @@ private Q_SLOTS:
         ListReader list;
         CycleReader cycle;
         DetailsReader details;
-        for (int round = 0; round < 20000; ++round) {
+        for (int round = 0; round < 12000; ++round) {
             QString line = seeds[random.bounded(seeds.size())];
             if (round % 4 == 0) {
                 line.clear();
