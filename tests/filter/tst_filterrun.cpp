@@ -128,9 +128,13 @@ private Q_SLOTS:
         heft::test::TempCollection c;
         Fill(c);
         heft::EntryList list;
+        list.SortColumn = heft::ColTitel;
+        list.SortDescending = true;
         const heft::FilterOutcome outcome = heft::FilterGenerator(c.session).Generate({row});
         QCOMPARE(heft::RunFilterStatement(c.session, list, outcome.sql), result);
         QCOMPARE(list.ActiveGrid, &list.Heftliste);
+        QCOMPARE(list.SortColumn, int(heft::ColTitel));
+        QVERIFY(list.SortDescending);
     }
 };
 
