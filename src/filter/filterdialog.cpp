@@ -14,6 +14,8 @@
 #include <QSignalBlocker>
 #include <QTimer>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace heft {
@@ -64,6 +66,13 @@ FilterDialog::FilterDialog(MainWindow& window, FilterState& state)
 
 FilterDialog::~FilterDialog() = default;
 
+std::array<QWidget*, 5> FilterDialog::Row::Editors() const { return {text, univ, aufl, gel, date}; }
+
+std::array<QWidget*, 7> FilterDialog::Row::Closing() const
+{
+    return {choose, ver, text, date, aufl, gel, univ};
+}
+
 void FilterDialog::SetupArchiveFrame()
 {
     m_ui->frm_archiv->setEnabled(m_window.CurrentSession().Config.SeriesName == ArchiveSeries);
@@ -97,26 +106,22 @@ void FilterDialog::SetupRows()
         row.aufl->setCurrentIndex(1);
         Refill(row.gel, YesNoEntries());
         Refill(row.logic, JoinWords());
-        // Every row starts on the first field with its text box.
+        // Every row starts on the first field, with its text box.
         ChooseClick(i);
-        for (QWidget* editor : {static_cast<QWidget*>(row.aufl), static_cast<QWidget*>(row.gel),
-                                static_cast<QWidget*>(row.date), static_cast<QWidget*>(row.univ)})
-            editor->hide();
         row.logic->setEnabled(false);
 
         connect(row.choose, &QComboBox::currentIndexChanged, this, [this, i] { ChooseClick(i); });
         connect(row.ver, &QComboBox::currentIndexChanged, this, [this, i] { VerClick(i); });
         connect(row.logic, &QComboBox::currentIndexChanged, this, [this, i] { LogicClick(i); });
-        for (QWidget* control : {static_cast<QWidget*>(row.text), static_cast<QWidget*>(row.univ),
-                                 static_cast<QWidget*>(row.aufl), static_cast<QWidget*>(row.gel),
-                                 static_cast<QWidget*>(row.date), static_cast<QWidget*>(row.logic)})
-            control->installEventFilter(this);
+        for (QWidget* editor : row.Editors())
+            editor->installEventFilter(this);
+        row.logic->installEventFilter(this);
     }
     m_ui->btn_ausf->setEnabled(false);
     // Rows 1 and 2 open when the row before them gets a joining word.
     for (size_t i = 1; i < m_rows.size(); ++i)
-        for (QWidget* control : {static_cast<QWidget*>(m_rows[i].choose), static_cast<QWidget*>(m_rows[i].ver),
-                                 static_cast<QWidget*>(m_rows[i].text), static_cast<QWidget*>(m_rows[i].logic)})
+        for (QWidget* control : std::array<QWidget*, 4>{m_rows[i].choose, m_rows[i].ver, m_rows[i].text,
+                                                        m_rows[i].logic})
             control->setEnabled(false);
     // Nothing follows the last row.
     m_rows.back().logic->hide();
@@ -158,9 +163,7 @@ void FilterDialog::ChooseClick(int row)
 void FilterDialog::ConfigureRowEditors(int row, QWidget* editor)
 {
     const Row& r = m_rows[static_cast<size_t>(row)];
-    for (QWidget* candidate : {static_cast<QWidget*>(r.aufl), static_cast<QWidget*>(r.gel),
-                               static_cast<QWidget*>(r.univ), static_cast<QWidget*>(r.text),
-                               static_cast<QWidget*>(r.date)})
+    for (QWidget* candidate : r.Editors())
         candidate->setVisible(candidate == editor);
     r.logic->setEnabled(true);
     m_ui->btn_ausf->setEnabled(true);
@@ -191,19 +194,16 @@ void FilterDialog::VerClick(int row)
 void FilterDialog::LogicClick(int row)
 {
     const Row& r = m_rows[static_cast<size_t>(row)];
-    const auto rowControls = [](const Row& of) {
-        return std::array<QWidget*, 7>{of.choose, of.ver, of.text, of.date, of.aufl, of.gel, of.univ};
-    };
     if (r.logic->currentIndex() == 0) {
         for (size_t j = static_cast<size_t>(row) + 1; j < m_rows.size(); ++j) {
-            for (QWidget* control : rowControls(m_rows[j]))
+            for (QWidget* control : m_rows[j].Closing())
                 control->setEnabled(false);
             m_rows[j].logic->setCurrentIndex(0);
             m_rows[j].logic->setEnabled(false);
         }
     } else if (static_cast<size_t>(row) + 1 < m_rows.size()) {
         const Row& next = m_rows[static_cast<size_t>(row) + 1];
-        for (QWidget* control : rowControls(next))
+        for (QWidget* control : next.Closing())
             control->setEnabled(true);
         next.logic->setEnabled(true);
     }
@@ -244,11 +244,9 @@ int FilterDialog::RowOf(QObject* control) const
 {
     for (size_t i = 0; i < m_rows.size(); ++i) {
         const Row& r = m_rows[i];
-        for (const QObject* candidate : {static_cast<QObject*>(r.text), static_cast<QObject*>(r.univ),
-                                         static_cast<QObject*>(r.aufl), static_cast<QObject*>(r.gel),
-                                         static_cast<QObject*>(r.date), static_cast<QObject*>(r.logic)})
-            if (candidate == control)
-                return static_cast<int>(i);
+        const auto editors = r.Editors();
+        if (control == r.logic || std::find(editors.begin(), editors.end(), control) != editors.end())
+            return static_cast<int>(i);
     }
     return -1;
 }

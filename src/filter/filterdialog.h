@@ -14,6 +14,7 @@
 
 class QComboBox;
 class QDateEdit;
+class QKeyEvent;
 class QLineEdit;
 class QPushButton;
 
@@ -52,6 +53,11 @@ private:
         QComboBox* gel;
         QDateEdit* date;
         QComboBox* logic;
+
+        // The five value editors; at most one of them shows.
+        std::array<QWidget*, 5> Editors() const;
+        // What a row closes when the row before loses its joining word.
+        std::array<QWidget*, 7> Closing() const;
     };
 
     void SetupRows();

@@ -1,0 +1,298 @@
+// frm_filter on a real collection: which editor and comparison words a row
+// offers, when rows open and btn_ausf may run, the keys and Enter, and runs
+// that are refused or find nothing.
+
+#include "testmain.h"
+#include "testsupport.h"
+
+#include "filter/filterdialog.h"
+#include "filter/filtermode.h"
+#include "mainwin/mainwindow.h"
+
+#include <QComboBox>
+#include <QDateEdit>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTest>
+
+#include <optional>
+
+using namespace Qt::StringLiterals;
+using namespace heft;
+using namespace heft::test;
+
+namespace {
+
+// The dialog over a loaded main window.
+struct OpenDialog {
+    explicit OpenDialog(const QString& series = u"Valdorin"_s) : collection(series)
+    {
+        collection.Add({{1, u"Ada Quell"_s, u"Der Sonnenwächter"_s, 1, u"I"_s},
+                        {2, u"Bert Lohmann"_s, u"Nacht über Kelvar"_s, 2, u"I"_s},
+                        {3, u"Ada Quell"_s, u"Die gläserne Stadt"_s},
+                        {4, u"Cora Wendt"_s, u"Sonnenfeuer"_s}});
+        collection.Exec(u"INSERT INTO Status (Nr, ENum, StatusWert) "
+                        "VALUES (1, 3, 'mäßig'), (2, 3, 'gut'), (3, 3, ' ');"_s);
+        window.LoadList(collection.session);
+        dialog.emplace(window, state);
+        dialog->show();
+    }
+    template <typename T = QWidget> T* Find(const QString& name) { return dialog->findChild<T*>(name); }
+    QPushButton* Ausf() { return Find<QPushButton>(u"btn_ausf"_s); }
+    QString Focus() { return dialog->focusWidget()->objectName(); }
+
+    // User steps: "0:field=Autor" picks a field in row 0, "1:ver=ÄHNLICH",
+    // "0:logic=UND" pick from the other lists, "0:type=12" types.
+    void Apply(const QStringList& steps)
+    {
+        for (const QString& step : steps) {
+            const QString row = step.left(1);
+            const QString what = step.mid(2).section(u'=', 0, 0);
+            const QString value = step.section(u'=', 1);
+            if (what == u"type") {
+                QTest::keyClicks(Find<QLineEdit>(u"txt_1"_s + row), value);
+                continue;
+            }
+            auto* list = Find<QComboBox>(u"cmb_"_s + (what == u"field" ? u"choose"_s : what) + row);
+            QVERIFY2(list && list->findText(value) >= 0, qPrintable(step));
+            list->setCurrentIndex(list->findText(value));
+        }
+    }
+
+    TempCollection collection;
+    MainWindow window;
+    FilterState state;
+    std::optional<FilterDialog> dialog;
+};
+
+QStringList Entries(const QComboBox* list)
+{
+    QStringList entries;
+    for (int i = 0; i < list->count(); ++i)
+        entries << list->itemText(i);
+    return entries;
+}
+
+} // namespace
+
+class TestFilterDialog : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    // btn_ausf follows the text boxes, and the field of row 0 alone says
+    // whether a blank text will do, for every row.
+    void enabling_data()
+    {
+        QTest::addColumn<QStringList>("steps");
+        QTest::addColumn<bool>("enabled");
+        QTest::newRow("number, nothing typed") << QStringList() << false;
+        QTest::newRow("number typed, then erased") << QStringList{u"0:type=1"_s, u"0:type=\b"_s} << false;
+        QTest::newRow("blank remark") << QStringList{u"0:field=Bemerkung"_s} << true;
+        QTest::newRow("blank remark, blank number")
+            << QStringList{u"0:field=Bemerkung"_s, u"0:logic=UND"_s, u"1:field=Nr"_s} << true;
+        QTest::newRow("number, blank number") << QStringList{u"0:type=12"_s, u"0:logic=ODER"_s} << false;
+        QTest::newRow("number, blank remark")
+            << QStringList{u"0:type=12"_s, u"0:logic=EXOR"_s, u"1:field=Bemerkung"_s} << false;
+        QTest::newRow("number, typed number")
+            << QStringList{u"0:type=12"_s, u"0:logic=ODER"_s, u"1:type=7"_s} << true;
+        QTest::newRow("number, blank number, rows closed again")
+            << QStringList{u"0:type=12"_s, u"0:logic=UND"_s, u"0:logic=Keine"_s} << true;
+        const QStringList authorLike = {u"0:field=Autor"_s, u"0:ver=ÄHNLICH"_s};
+        QTest::newRow("author like, nothing typed") << authorLike << false;
+        QTest::newRow("author like, typed") << authorLike + QStringList{u"0:type=Q"_s} << true;
+    }
+    void enabling()
+    {
+        QFETCH(QStringList, steps);
+        QFETCH(bool, enabled);
+        OpenDialog open;
+        open.Apply(steps);
+        QCOMPARE(open.Ausf()->isEnabled(), enabled);
+        QCOMPARE(open.dialog->IsFilterComplete(), enabled);
+    }
+
+    // A joining word opens the next row; "Keine" closes the rows behind it
+    // and resets their joining words.
+    void rowsOpenAndClose()
+    {
+        OpenDialog open;
+        QVERIFY(!open.Find(u"cmb_choose1"_s)->isEnabled());
+        QVERIFY(open.Find(u"cmb_logic2"_s)->isHidden());
+        open.Apply({u"0:type=5"_s, u"0:logic=UND"_s, u"1:type=6"_s, u"1:logic=ODER"_s});
+        QVERIFY(open.Find(u"txt_12"_s)->isEnabled());
+        open.Apply({u"0:logic=Keine"_s});
+        for (const QString& name :
+             {u"cmb_choose1"_s, u"txt_11"_s, u"cmb_logic1"_s, u"cmb_choose2"_s, u"txt_12"_s})
+            QVERIFY2(!open.Find(name)->isEnabled(), qPrintable(name));
+        QCOMPARE(open.Find<QComboBox>(u"cmb_logic1"_s)->currentText(), u"Keine"_s);
+    }
+
+    // Each field shows one value editor, its comparison words and entries;
+    // a new text box starts empty.
+    void editors_data()
+    {
+        const QStringList four = {u"IST"_s, u"UNGLEICH"_s, u"KLEINER"_s, u"GRÖßER"_s};
+        const QStringList three = {u"IST"_s, u"UNGLEICH"_s, u"ÄHNLICH"_s};
+        QTest::addColumn<QString>("field");
+        QTest::addColumn<QString>("editor");
+        QTest::addColumn<QStringList>("compare");
+        QTest::addColumn<QStringList>("entries");
+        QTest::addColumn<int>("index");
+        QTest::newRow("title") << u"Titel"_s << u"txt_1"_s << three << QStringList() << -1;
+        QTest::newRow("cycle") << u"Zyklus"_s << u"txt_1"_s << four << QStringList() << -1;
+        const QStringList printings = {u"Keine"_s, u"-1-"_s, u"-2-"_s, u"-3-"_s, u"-4-"_s, u"-5-"_s};
+        QTest::newRow("printing") << u"Auflage"_s << u"cmb_aufl"_s << four << printings << 1;
+        QTest::newRow("read") << u"Gelesen"_s << u"cmb_gel"_s << QStringList{u"IST"_s}
+                              << QStringList{u"Ja"_s, u"Nein"_s} << 0;
+        QTest::newRow("date") << u"Datum"_s << u"dtp_datum"_s << four << QStringList() << -1;
+        QTest::newRow("author") << u"Autor"_s << u"cmb_univ"_s << three
+                                << QStringList{u"Ada Quell"_s, u"Bert Lohmann"_s, u"Cora Wendt"_s} << 0;
+        QTest::newRow("condition") << u"Zustand"_s << u"cmb_univ"_s << three
+                                   << QStringList{u"gut"_s, u"mäßig"_s, u"<LEER>"_s} << 0;
+    }
+    void editors()
+    {
+        QFETCH(QString, field);
+        QFETCH(QString, editor);
+        QFETCH(QStringList, compare);
+        QFETCH(QStringList, entries);
+        QFETCH(int, index);
+        OpenDialog open;
+        open.Apply({u"0:type=42"_s, u"0:field="_s + field});
+        QStringList shown;
+        for (const QString& name : {u"txt_1"_s, u"cmb_univ"_s, u"cmb_aufl"_s, u"cmb_gel"_s, u"dtp_datum"_s})
+            if (!open.Find(name + u"0"_s)->isHidden())
+                shown << name;
+        QCOMPARE(shown, QStringList{editor});
+        QCOMPARE(Entries(open.Find<QComboBox>(u"cmb_ver0"_s)), compare);
+        if (editor == u"txt_1")
+            QCOMPARE(open.Find<QLineEdit>(u"txt_10"_s)->text(), QString());
+        if (editor == u"dtp_datum")
+            QCOMPARE(open.Find<QDateEdit>(u"dtp_datum0"_s)->date(), QDate::currentDate());
+        if (auto* list = open.Find<QComboBox>(editor + u"0"_s); list && !entries.isEmpty()) {
+            QCOMPARE(Entries(list), entries);
+            QCOMPARE(list->currentIndex(), index);
+        }
+    }
+
+    void keys_data()
+    {
+        QTest::addColumn<QString>("field");
+        QTest::addColumn<QString>("kept");
+        QTest::newRow("number: digits") << u"Nr"_s << u"19"_s;
+        QTest::newRow("cycle: digits and roman letters") << u"Zyklus"_s << u"1xIv9M"_s;
+        QTest::newRow("title: anything") << u"Titel"_s << u"1a xIv-9,qM"_s;
+    }
+    void keys()
+    {
+        QFETCH(QString, field);
+        QFETCH(QString, kept);
+        OpenDialog open;
+        open.Apply({u"0:field="_s + field, u"0:type=1a xIv-9,qM"_s});
+        QCOMPARE(open.Find<QLineEdit>(u"txt_10"_s)->text(), kept);
+    }
+
+    // Enter walks on from a value to the joining word or to btn_ausf.
+    void enterMovesOn_data()
+    {
+        QTest::addColumn<QStringList>("steps");
+        QTest::addColumn<QString>("control");
+        QTest::addColumn<QString>("focus");
+        QTest::newRow("typed number") << QStringList{u"0:type=12"_s} << u"txt_10"_s << u"btn_ausf"_s;
+        QTest::newRow("blank number") << QStringList() << u"txt_10"_s << u"txt_10"_s;
+        QTest::newRow("list in row 1") << QStringList{u"0:type=1"_s, u"0:logic=UND"_s, u"1:field=Autor"_s}
+                                       << u"cmb_univ1"_s << u"cmb_logic1"_s;
+        QTest::newRow("date in row 2")
+            << QStringList{u"0:type=1"_s, u"0:logic=UND"_s, u"1:type=2"_s, u"1:logic=UND"_s,
+                           u"2:field=Datum"_s}
+            << u"dtp_datum2"_s << u"btn_ausf"_s;
+        const QStringList read = {u"0:field=Gelesen"_s};
+        QTest::newRow("joining word Keine") << read << u"cmb_logic0"_s << u"btn_ausf"_s;
+        QTest::newRow("joining word UND") << read + QStringList{u"0:logic=UND"_s} << u"cmb_logic0"_s
+                                          << u"cmb_logic0"_s;
+    }
+    void enterMovesOn()
+    {
+        QFETCH(QStringList, steps);
+        QFETCH(QString, control);
+        QFETCH(QString, focus);
+        OpenDialog open;
+        open.Apply(steps);
+        open.Find(control)->setFocus();
+        QTest::keyClick(open.Find(control), Qt::Key_Return);
+        QCOMPARE(open.Focus(), focus);
+        QVERIFY(open.dialog->isVisible());
+    }
+
+    // A refused cycle value sends the focus back to its box, and the release
+    // of the Enter that ran the command must not send it on again; the
+    // corrected value then runs.
+    void refusedCycleValue()
+    {
+        OpenDialog open;
+        open.Apply({u"0:field=Zyklus"_s, u"0:type=0"_s});
+        auto* box = open.Find<QLineEdit>(u"txt_10"_s);
+        open.Ausf()->setFocus();
+        QTest::keyPress(open.Ausf(), Qt::Key_Return);
+        QCOMPARE(box->text(), u"- - -"_s);
+        QTest::keyRelease(box, Qt::Key_Return);
+        QCOMPARE(open.Focus(), u"txt_10"_s);
+        QVERIFY(open.dialog->isVisible());
+
+        QTest::keyClick(box, Qt::Key_Return);
+        QTest::keyPress(open.Ausf(), Qt::Key_Return);
+        QCOMPARE(open.dialog->result(), int(QDialog::Accepted));
+        QCOMPARE(open.window.List().Filter.Rows() - 1, 2);
+    }
+
+    // The keyword search belongs to one series.
+    void archiveFrame()
+    {
+        OpenDialog open(u"Sternenfahrer"_s);
+        QVERIFY(!open.Find(u"cmb_aftype"_s)->isEnabled());
+        QCOMPARE(open.Find<QComboBox>(u"cmb_aftype"_s)->currentText(), u"Keine"_s);
+    }
+
+    // Nothing found, or a condition the database refuses: the message, and
+    // the dialog and the main window stay as they were.
+    void emptyResult_data()
+    {
+        QTest::addColumn<QStringList>("steps");
+        QTest::addColumn<QString>("sentence");
+        QTest::newRow("no such number") << QStringList{u"0:type=999"_s} << u"Nummer = 999 "_s;
+        QTest::newRow("blank number after a blank remark")
+            << QStringList{u"0:field=Bemerkung"_s, u"0:logic=UND"_s, u"1:field=Nr"_s}
+            << u"Bemerkung = <LEER> UND Nummer = <LEER> "_s;
+    }
+    void emptyResult()
+    {
+        QFETCH(QStringList, steps);
+        QFETCH(QString, sentence);
+        OpenDialog open;
+        EntryList& list = open.window.List();
+        list.SortByColumn(ColTitel);
+        list.FindAndShowRow(4);
+        const QString selection = open.window.StatusPanelText(3);
+        open.Apply(steps);
+        open.Ausf()->click();
+
+        QCOMPARE(open.collection.prompter.asked.size(), 1);
+        const Message& message = open.collection.prompter.asked[0];
+        QCOMPARE(message.title, u"Keine Einträge vorhanden"_s);
+        QCOMPARE(message.text, u"Zu den gegebenen Filter-Kriterien konnten\rin der Datenbank leider keine "
+                               "Einträge\rgefunden werden."_s);
+        QCOMPARE(message.icon, MessageIcon::Information);
+        QVERIFY(open.dialog->isVisible());
+        QCOMPARE(open.Focus(), u"cmb_choose0"_s);
+        QCOMPARE(open.state.FilterText, sentence);
+
+        QVERIFY(!open.window.IsFilterMode());
+        QVERIFY(list.Heftliste.Visible());
+        QCOMPARE(list.SortColumn, int(ColTitel));
+        QCOMPARE(open.window.StatusPanelText(3), selection);
+        QCOMPARE(open.window.StatusPanelText(6), u"-"_s);
+    }
+};
+
+HEFT_TEST(TestFilterDialog)
+#include "tst_filterdialog.moc"
