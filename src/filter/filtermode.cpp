@@ -1,5 +1,6 @@
 #include "filtermode.h"
 
+#include "columnfilldialog.h"
 #include "filterdialog.h"
 #include "smallfilterwindow.h"
 
@@ -105,7 +106,12 @@ void FilterMode::PanelClicked(int panel)
     window.exec();
 }
 
-void InstallFilterMode(MainWindow& window) { new FilterMode(window); }
+void InstallFilterMode(MainWindow& window)
+{
+    new FilterMode(window);
+    // In a filter list "insert" fills a column over the whole list.
+    window.SetColumnFillOpener([&window] { ShowColumnFill(window); });
+}
 
 FilterState* FilterStateOf(MainWindow& window)
 {
