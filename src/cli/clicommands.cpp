@@ -4,8 +4,10 @@
 #include "core/schema.h"
 #include "core/session.h"
 #include "core/sqlwriters.h"
+#include "filter/columnfill.h"
 #include "filter/filterfields.h"
 #include "filter/filtergenerator.h"
+#include "mainwin/entrygridmodel.h"
 
 #include <QFileInfo>
 
@@ -21,7 +23,11 @@ const QString Usage = u"Aufruf:\n"
                       "  heftarium-cli create DATEI --series SERIE --kind LISTENART\n"
                       "  heftarium-cli --db DATEI info\n"
                       "  heftarium-cli --db DATEI sql \"ANWEISUNG\"\n"
-                      "  heftarium-cli --db DATEI filter FELD:VERGLEICH:WERT [UND|ODER|EXOR FELD:VERGLEICH:WERT ...]\n"_s;
+                      "  heftarium-cli --db DATEI filter FELD:VERGLEICH:WERT [UND|ODER|EXOR FELD:VERGLEICH:WERT ...]\n"
+                      "  heftarium-cli --db DATEI fill FELD:VERGLEICH:WERT [...] --target SPALTE --value WERT\n"_s;
+
+const QString NothingFound =
+    u"Zu den gegebenen Filter-Kriterien konnten in der Datenbank leider keine Einträge gefunden werden.\n"_s;
 
 // The value behind an option such as "--series"; empty if absent.
 QString OptionValue(const QStringList& arguments, const QString& option)
@@ -143,7 +149,9 @@ QString ParseFilterRow(Session& session, const QString& argument, FilterCriterio
     return *index < 0 ? u"Nicht in der Liste von %1: %2"_s.arg(name, value) : QString();
 }
 
-int Filter(Session& session, const QStringList& words, QTextStream& out, QTextStream& err)
+// The criteria rows of a command line, with their joining words between
+// them. Returns 0, or the exit code after telling what was not understood.
+int ParseFilterWords(Session& session, const QStringList& words, QList<FilterCriterion>& rows, QTextStream& err)
 {
     if (words.isEmpty() || words.size() % 2 == 0 || words.size() > 2 * FilterRowCount - 1) {
         err << Usage;
@@ -151,7 +159,6 @@ int Filter(Session& session, const QStringList& words, QTextStream& out, QTextSt
     }
     DbError error;
     ReadConfiguration(session, &error);
-    QList<FilterCriterion> rows;
     for (qsizetype i = 0; i < words.size(); i += 2) {
         FilterCriterion row;
         if (const QString problem = ParseFilterRow(session, words[i], row); !problem.isEmpty()) {
@@ -167,14 +174,30 @@ int Filter(Session& session, const QStringList& words, QTextStream& out, QTextSt
         }
         rows << row;
     }
+    return 0;
+}
 
-    const FilterOutcome outcome = FilterGenerator(session).Generate(rows);
-    if (outcome.rejected) {
-        err << u"Ungültiger Zyklus in Kriterium %1: %2\n"_s.arg(outcome.rejectedRow + 1).arg(
-            outcome.shownTexts[outcome.rejectedRow]);
-        return 1;
-    }
+// The statement of the rows, or the exit code after telling why there is none.
+int GenerateFilter(Session& session, const QList<FilterCriterion>& rows, FilterOutcome& outcome, QTextStream& err)
+{
+    outcome = FilterGenerator(session).Generate(rows);
+    if (!outcome.rejected)
+        return 0;
+    err << u"Ungültiger Zyklus in Kriterium %1: %2\n"_s.arg(outcome.rejectedRow + 1).arg(
+        outcome.shownTexts[outcome.rejectedRow]);
+    return 1;
+}
+
+int Filter(Session& session, const QStringList& words, QTextStream& out, QTextStream& err)
+{
+    QList<FilterCriterion> rows;
+    FilterOutcome outcome;
+    if (const int code = ParseFilterWords(session, words, rows, err))
+        return code;
+    if (const int code = GenerateFilter(session, rows, outcome, err))
+        return code;
     out << outcome.where << u'\n' << outcome.text << u'\n';
+    DbError error;
     Query query = session.CollectionDb->Select(outcome.sql, &error);
     int found = 0;
     while (!error && query.Next()) {
@@ -188,10 +211,108 @@ int Filter(Session& session, const QStringList& words, QTextStream& out, QTextSt
         return 1;
     }
     if (found == 0)
-        out << u"Zu den gegebenen Filter-Kriterien konnten in der Datenbank leider keine Einträge gefunden werden.\n"_s;
+        out << NothingFound;
     return 0;
 }
 
+
+// Takes "option VALUE" out of the words; false if the option isn't there.
+bool TakeOption(QStringList& words, const QString& option, QString& value)
+{
+    const qsizetype at = words.indexOf(option);
+    if (at < 0 || at + 1 >= words.size())
+        return false;
+    value = words[at + 1];
+    words.remove(at, 2);
+    return true;
+}
+
+// The value as the window's input for the target would hold it: the entry
+// of cmb_aufl or cmb_gel, an accepted cycle, or the text within the limit of
+// txt_1. Returns 0, or the exit code after telling what is wrong.
+int ReadFillValue(Session& session, const QString& value, FillRequest& request, QTextStream& err)
+{
+    const FillTarget& target = FillTargetAt(request.target);
+    QStringList entries;
+    switch (target.editor) {
+    case FillEditor::Univf:
+        request.text = value;
+        return 0;
+    case FillEditor::Text:
+        request.text = value.left(target.maxLength);
+        if (target.gridColumn == ColZyklus) {
+            // The window refuses a text that is no cycle once and writes
+            // "- - -" on the next press; here "- - -" is given directly.
+            const CycleInput cycle = NormalizeCycleInput(request.text);
+            if (!cycle.accepted) {
+                err << u"Kein Zyklus: %1 (\"- - -\" schreibt: kein Zyklus)\n"_s.arg(value);
+                return 1;
+            }
+            request.text = cycle.text;
+        }
+        return 0;
+    case FillEditor::Aufl:
+        entries = AuflageEntries(session.Config.MaxAuflage);
+        break;
+    case FillEditor::Gel:
+        entries = YesNoEntries();
+        break;
+    }
+    request.listIndex = static_cast<int>(entries.indexOf(value));
+    if (request.listIndex >= 0)
+        return 0;
+    err << u"Nicht in der Liste von %1: %2\n"_s.arg(target.label, value);
+    return 2;
+}
+
+// Fills the target over the entries the filter finds, from the last to the
+// first as the window does, and tells how many entries were changed.
+int Fill(Session& session, const QStringList& arguments, QTextStream& out, QTextStream& err)
+{
+    QStringList words = arguments;
+    QString label, value;
+    if (!TakeOption(words, u"--target"_s, label) || !TakeOption(words, u"--value"_s, value)) {
+        err << Usage;
+        return 2;
+    }
+    QList<FilterCriterion> rows;
+    FilterOutcome outcome;
+    if (const int code = ParseFilterWords(session, words, rows, err))
+        return code;
+    const auto targets = FillTargets();
+    const auto target = std::find_if(targets.begin(), targets.end(), [&](const FillTarget& t) { return t.label == label; });
+    if (target == targets.end()) {
+        err << u"Unbekannte Spalte: "_s << label << u'\n';
+        return 2;
+    }
+    FillRequest request;
+    request.target = static_cast<int>(target - targets.begin());
+    if (const int code = ReadFillValue(session, value, request, err))
+        return code;
+    if (const int code = GenerateFilter(session, rows, outcome, err))
+        return code;
+
+    DbError error;
+    Query query = session.CollectionDb->Select(outcome.sql, &error);
+    QList<int> numbers;
+    while (!error && query.Next())
+        numbers << static_cast<int>(query.Int(0));
+    if (!error)
+        error = query.Error();
+    query.Close();
+    if (error) {
+        err << u"%1 %2\n"_s.arg(error.number).arg(error.description);
+        return 1;
+    }
+    if (numbers.isEmpty()) {
+        out << NothingFound;
+        return 0;
+    }
+    session.ActiveCaption = [] { return ColumnFillCaption(); };
+    const int changed = FillEntries(session, request, numbers);
+    out << u"Geänderte Einträge: %1\n"_s.arg(changed);
+    return 0;
+}
 } // namespace
 
 int RunCli(const QStringList& arguments, QTextStream& out, QTextStream& err)
@@ -217,6 +338,8 @@ int RunCli(const QStringList& arguments, QTextStream& out, QTextStream& err)
         return Sql(session, arguments[3], out);
     if (command == u"filter")
         return Filter(session, arguments.mid(3), out, err);
+    if (command == u"fill")
+        return Fill(session, arguments.mid(3), out, err);
     err << Usage;
     return 2;
 }

@@ -247,4 +247,13 @@ int FillColumn(Session& session, EntryList& list, const FillRequest& request, co
     return handled;
 }
 
+int FillEntries(Session& session, const FillRequest& request, const QList<int>& numbers)
+{
+    const FillTarget& target = FillTargetAt(request.target);
+    const PreparedValue value = Prepare(request);
+    for (auto nr = numbers.crbegin(); nr != numbers.crend(); ++nr)
+        WriteEntry(session, target, value, *nr);
+    return static_cast<int>(numbers.size());
+}
+
 } // namespace heft

@@ -86,5 +86,7 @@ struct FillFeedback {
 // are walked in number order; the filter list gets its sort back at the
 // end, and the full list is noted to get its own back when the filter ends.
 int FillColumn(Session& session, EntryList& list, const FillRequest& request, const FillFeedback& feedback);
+// The same for entries given by number, with no list to keep up to date.
+int FillEntries(Session& session, const FillRequest& request, const QList<int>& numbers);
 
 } // namespace heft
