@@ -47,7 +47,6 @@ StatusBar::StatusBar(QWidget* parent) : QStatusBar(parent)
         panel->setToolTip(QString::fromUtf16(layout.toolTip));
         panel->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
         panel->setMargin(1);
-        panel->installEventFilter(this);
         if (layout.fit == Fit::Fixed)
             panel->setFixedWidth(layout.minWidth);
         else
@@ -55,6 +54,8 @@ StatusBar::StatusBar(QWidget* parent) : QStatusBar(parent)
         addWidget(panel, layout.fit == Fit::Spring ? 1 : 0);
         m_panels[i] = panel;
     }
+    // One filter on the application sees both the lock keys, wherever the
+    // focus is, and the clicks on the panels.
     qApp->installEventFilter(this);
     RefreshLockPanels();
 }

@@ -245,8 +245,6 @@ private Q_SLOTS:
             QTest::keyClick(box, Qt::Key_Escape);
         });
         f.ClickPanel(6);
-        QEXPECT_FAIL("filter on", "StatusBar reports a click twice, as object and as application event filter",
-                     Continue);
         QCOMPARE(look.opened, filterOn ? 1 : 0);
         QVERIFY(!look.leftOpen);
         if (filterOn)
