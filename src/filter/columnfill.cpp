@@ -110,6 +110,31 @@ void WriteEntry(Session& session, const FillTarget& target, const PreparedValue&
     StampLastChange(session, nr);
 }
 
+// The entries go to the file in batches: with a commit per statement a
+// fill over ten thousand entries would mostly wait for the file. An entry's
+// value and its stamp always land in the same batch, and a fill that is
+// stopped commits what it did.
+class Batches {
+public:
+    explicit Batches(Database& db) : m_db(db) { m_db.BeginBulk(); }
+    ~Batches() { m_db.EndBulk(); }
+    Batches(const Batches&) = delete;
+    Batches& operator=(const Batches&) = delete;
+
+    void EntryDone()
+    {
+        if (++m_entries % EntriesPerCommit != 0)
+            return;
+        m_db.EndBulk();
+        m_db.BeginBulk();
+    }
+
+private:
+    static constexpr int EntriesPerCommit = 100;
+    Database& m_db;
+    int m_entries = 0;
+};
+
 int NrAt(const EntryGrid& grid, int row) { return grid.TextMatrix(row, ColNr).toInt(); }
 
 // Sorts the grid by number unless it stands so already; true if it had to.
@@ -224,6 +249,7 @@ int FillColumn(Session& session, EntryList& list, const FillRequest& request, co
     const int rows = filter.Rows();
     int heftlisteRow = heftliste.Rows();
     int handled = 0;
+    Batches batches(*session.CollectionDb);
     for (int row = rows - 1; row >= 1; --row) {
         if (row % 10 == 0)
             feedback.progress(rows - row);
@@ -236,6 +262,7 @@ int FillColumn(Session& session, EntryList& list, const FillRequest& request, co
             }
         }
         WriteEntry(session, target, value, nr.toInt());
+        batches.EntryDone();
         ++handled;
         if (feedback.stopRequested())
             break;
@@ -251,8 +278,11 @@ int FillEntries(Session& session, const FillRequest& request, const QList<int>& 
 {
     const FillTarget& target = FillTargetAt(request.target);
     const PreparedValue value = Prepare(request);
-    for (auto nr = numbers.crbegin(); nr != numbers.crend(); ++nr)
+    Batches batches(*session.CollectionDb);
+    for (auto nr = numbers.crbegin(); nr != numbers.crend(); ++nr) {
         WriteEntry(session, target, value, *nr);
+        batches.EntryDone();
+    }
     return static_cast<int>(numbers.size());
 }
 
