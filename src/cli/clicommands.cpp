@@ -280,7 +280,8 @@ int Fill(Session& session, const QStringList& arguments, QTextStream& out, QText
     if (const int code = ParseFilterWords(session, words, rows, err))
         return code;
     const auto targets = FillTargets();
-    const auto target = std::find_if(targets.begin(), targets.end(), [&](const FillTarget& t) { return t.label == label; });
+    const auto target =
+        std::find_if(targets.begin(), targets.end(), [&](const FillTarget& t) { return t.label == label; });
     if (target == targets.end()) {
         err << u"Unbekannte Spalte: "_s << label << u'\n';
         return 2;

@@ -86,25 +86,27 @@ PreparedValue Prepare(const FillRequest& request)
 // caption of this window.
 void WriteEntry(Session& session, const FillTarget& target, const PreparedValue& value, int nr)
 {
+    // All parts go in with one arg() call: a typed "%1" must stay text.
+    const QString number = QString::number(nr);
     if (target.gridColumn >= 0) {
-        session.CurrentSql = u"UPDATE HEFTLIST SET %1 WHERE Nr=%2;"_s.arg(value.sql).arg(nr);
+        session.CurrentSql = u"UPDATE HEFTLIST SET %1 WHERE Nr=%2;"_s.arg(value.sql, number);
         ExecuteSql(session);
     } else if (target.enumber == 0) {
         // An entry has at most one Gestaltung row; the insert fails when
         // there is one already.
-        session.CurrentSql = u"INSERT INTO Gestaltung (Nr, %1) VALUES (%2, '%3');"_s.arg(target.label).arg(nr).arg(
-            value.sql);
+        session.CurrentSql =
+            u"INSERT INTO Gestaltung (Nr, %1) VALUES (%2, '%3');"_s.arg(target.label, number, value.sql);
         if (ExecuteSql(session) != ExecuteDone) {
             session.CurrentSql =
-                u"UPDATE Gestaltung SET %1='%2' WHERE Nr=%3;"_s.arg(target.label, value.sql).arg(nr);
+                u"UPDATE Gestaltung SET %1='%2' WHERE Nr=%3;"_s.arg(target.label, value.sql, number);
             ExecuteSql(session);
         }
     } else {
-        session.CurrentSql = u"DELETE FROM Status WHERE ENum =%1 AND Nr=%2;"_s.arg(target.enumber).arg(nr);
+        const QString enumber = QString::number(target.enumber);
+        session.CurrentSql = u"DELETE FROM Status WHERE ENum =%1 AND Nr=%2;"_s.arg(enumber, number);
         ExecuteSql(session);
-        session.CurrentSql = u"INSERT INTO Status (Nr, ENum, StatusWert) VALUES (%1, %2, '%3');"_s.arg(nr)
-                                 .arg(target.enumber)
-                                 .arg(value.sql);
+        session.CurrentSql =
+            u"INSERT INTO Status (Nr, ENum, StatusWert) VALUES (%1, %2, '%3');"_s.arg(number, enumber, value.sql);
         ExecuteSql(session);
     }
     StampLastChange(session, nr);
@@ -196,7 +198,8 @@ QString FillSuggestionSql(int target)
     // The list index less four is the ENum only for the first three text
     // attributes; from "Verlag" on the suggestions are those of the
     // attribute before. Only the offer is off, never what is written.
-    return u"SELECT DISTINCT StatusWert FROM Status WHERE ENum=%1 ORDER BY StatusWert;"_s.arg(target - FirstHiddenTarget);
+    return u"SELECT DISTINCT StatusWert FROM Status WHERE ENum=%1 ORDER BY StatusWert;"_s.arg(
+        target - FirstHiddenTarget);
 }
 
 QStringList FillSuggestions(Database& db, int target)

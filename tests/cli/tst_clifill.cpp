@@ -21,19 +21,22 @@ private Q_SLOTS:
         QTest::addColumn<QString>("out");
         QTest::addColumn<QString>("check"); // a query over the collection afterwards
         QTest::addColumn<QString>("result");
-        const QString price = u"SELECT GROUP_CONCAT(v) FROM (SELECT Nr || '=' || StatusWert AS v FROM Status WHERE ENum=5 ORDER BY Nr);"_s;
+        const QString price = u"SELECT GROUP_CONCAT(v) FROM "
+                              "(SELECT Nr || '=' || StatusWert AS v FROM Status WHERE ENum=5 ORDER BY Nr);"_s;
         QTest::newRow("status over a filter")
             << QStringList{u"Autor:IST:Ava Lind"_s, u"--target"_s, u"Preis"_s, u"--value"_s, u"2,5"_s} << 0
             << u"Geänderte Einträge: 2\n"_s << price << u"1=00002.5,3=00002.5"_s;
         QTest::newRow("cycle as a number")
             << QStringList{u"Nr:GRÖßER:1"_s, u"--target"_s, u"Zyklus"_s, u"--value"_s, u"14"_s} << 0
-            << u"Geänderte Einträge: 2\n"_s << u"SELECT GROUP_CONCAT(Zyklus) FROM (SELECT Zyklus FROM HEFTLIST ORDER BY Nr);"_s << u"I,XIV,XIV"_s;
+            << u"Geänderte Einträge: 2\n"_s
+            << u"SELECT GROUP_CONCAT(Zyklus) FROM (SELECT Zyklus FROM HEFTLIST ORDER BY Nr);"_s << u"I,XIV,XIV"_s;
         QTest::newRow("no cycle only when said so")
             << QStringList{u"Nr:IST:2"_s, u"--target"_s, u"Zyklus"_s, u"--value"_s, u""_s} << 1 << QString()
             << u"SELECT Zyklus FROM HEFTLIST WHERE Nr=2;"_s << u"II"_s;
         QTest::newRow("printing from the list")
             << QStringList{u"Nr:KLEINER:3"_s, u"--target"_s, u"Auflage"_s, u"--value"_s, u"Keine"_s} << 0
-            << u"Geänderte Einträge: 2\n"_s << u"SELECT GROUP_CONCAT(Auflage) FROM (SELECT Auflage FROM HEFTLIST ORDER BY Nr);"_s << u"0,0,1"_s;
+            << u"Geänderte Einträge: 2\n"_s
+            << u"SELECT GROUP_CONCAT(Auflage) FROM (SELECT Auflage FROM HEFTLIST ORDER BY Nr);"_s << u"0,0,1"_s;
         QTest::newRow("printing not in the list")
             << QStringList{u"Nr:IST:1"_s, u"--target"_s, u"Auflage"_s, u"--value"_s, u"-9-"_s} << 2 << QString()
             << u"SELECT Auflage FROM HEFTLIST WHERE Nr=1;"_s << u"1"_s;

@@ -119,7 +119,7 @@ private Q_SLOTS:
         QTest::newRow("Zyklus in small letters") << u"Zyklus"_s << u"x-iv"_s << u"XIV"_s << u"Zyklus"_s << u"XIV"_s;
         QTest::newRow("Gelesen Ja") << u"Gelesen"_s << u"Ja"_s << u"ü"_s << u"GL"_s << u"-1"_s;
         QTest::newRow("Bemerkung, quoted")
-            << u"Bemerkung"_s << u"Kim's Fund"_s << u"Kim's Fund"_s << u"Bemerkung"_s << u"Kim's Fund"_s;
+            << u"Bemerkung"_s << u"Kim's Fund %1"_s << u"Kim's Fund %1"_s << u"Bemerkung"_s << u"Kim's Fund %1"_s;
     }
 
     // Both lists sorted otherwise: the filter list by title, the full list
@@ -181,8 +181,8 @@ private Q_SLOTS:
         QTest::newRow("copies") << u"Exemplare"_s << u"12"_s << u"12"_s
                                 << u"SELECT StatusWert FROM Status WHERE ENum=2 AND Nr=%1;"_s << u"0000012"_s
                                 << QString();
-        QTest::newRow("text trimmed") << u"Lagerort"_s << u" Regal 3 "_s << QString()
-                                      << u"SELECT StatusWert FROM Status WHERE ENum=7 AND Nr=%1;"_s << u"Regal 3"_s
+        QTest::newRow("text trimmed") << u"Lagerort"_s << u" Regal %1 "_s << QString()
+                                      << u"SELECT StatusWert FROM Status WHERE ENum=7 AND Nr=%1;"_s << u"Regal %1"_s
                                       << QString();
         // The value is not quoted: the insert fails after the delete, and
         // the stamps are written all the same.
