@@ -2,6 +2,8 @@
 
 #include "collectiongenerator.h"
 
+#include "core/session.h"
+
 #include <QElapsedTimer>
 #include <QFile>
 #include <QMap>
@@ -78,6 +80,14 @@ void ResetPeakMemory()
     QFile clear(u"/proc/self/clear_refs"_s);
     if (clear.open(QIODevice::WriteOnly))
         clear.write("5");
+}
+
+void OpenCollection(Session& session, const QString& path)
+{
+    DbError error;
+    session.CollectionDb = Database::Open(path, &error);
+    if (!session.CollectionDb)
+        qFatal("bench collection not opened: %s", qPrintable(error.description));
 }
 
 QString CollectionCopy(int entries)

@@ -6,6 +6,10 @@
 
 #include <functional>
 
+namespace heft {
+class Session;
+}
+
 namespace heft::bench {
 
 struct Figure {
@@ -28,6 +32,10 @@ void ResetPeakMemory();
 // A generated collection of the given size, made once per run in a
 // temporary folder; the path of a fresh copy for each call.
 QString CollectionCopy(int entries);
+
+// Opens a bench collection into the session; one that won't open ends the
+// run, since every figure after it would be meaningless.
+void OpenCollection(Session& session, const QString& path);
 
 } // namespace heft::bench
 

@@ -19,8 +19,8 @@ double DetailOpenSaveMs(int entries)
 {
     const QString path = heft::bench::CollectionCopy(entries);
     heft::Session session;
+    heft::bench::OpenCollection(session, path);
     heft::DbError error;
-    session.CollectionDb = heft::Database::Open(path, &error);
     heft::ReadConfiguration(session, &error);
     heft::ReadParameters(session);
     session.SharedRecordset = session.CollectionDb->Select(u"SELECT * FROM HEFTLIST ORDER BY Nr;"_s);

@@ -22,10 +22,8 @@ double EditSaveMs(int entries)
     heft::Session session;
     heft::ScriptedPrompter prompter;
     session.prompter = &prompter;
+    heft::bench::OpenCollection(session, path);
     heft::DbError error;
-    session.CollectionDb = heft::Database::Open(path, &error);
-    if (!session.CollectionDb)
-        qFatal("bench collection not opened: %s", qPrintable(error.description));
     heft::ReadConfiguration(session, &error);
     heft::ReadParameters(session);
 

@@ -22,10 +22,7 @@ double FillStatusMs(int entries)
 {
     const QString path = heft::bench::CollectionCopy(entries);
     heft::Session session;
-    heft::DbError error;
-    session.CollectionDb = heft::Database::Open(path, &error);
-    if (!session.CollectionDb)
-        qFatal("bench collection not opened: %s", qPrintable(error.description));
+    heft::bench::OpenCollection(session, path);
     session.ActiveCaption = [] { return heft::ColumnFillCaption(); };
 
     const QString all = u"SELECT * FROM HEFTLIST ORDER BY Nr;"_s;

@@ -35,10 +35,7 @@ double FilterThreeRowsMs(int entries)
 {
     const QString path = heft::bench::CollectionCopy(entries);
     heft::Session session;
-    heft::DbError error;
-    session.CollectionDb = heft::Database::Open(path, &error);
-    if (!session.CollectionDb)
-        qFatal("bench collection not opened: %s", qPrintable(error.description));
+    heft::bench::OpenCollection(session, path);
 
     double ms = 0;
     {

@@ -17,10 +17,8 @@ namespace {
 void LoadCollection(const QString& path, int entries)
 {
     heft::Session session;
+    heft::bench::OpenCollection(session, path);
     heft::DbError error;
-    session.CollectionDb = heft::Database::Open(path, &error);
-    if (!session.CollectionDb)
-        qFatal("bench collection not opened: %s", qPrintable(error.description));
     heft::ReadConfiguration(session, &error);
     heft::ReadParameters(session);
     session.SharedRecordset = session.CollectionDb->Select(u"SELECT * FROM HEFTLIST ORDER BY Nr;"_s);
