@@ -2,7 +2,9 @@
 
 #include "collectiongenerator.h"
 
+#include "core/config.h"
 #include "core/session.h"
+#include "mainwin/entrylist.h"
 
 #include <QElapsedTimer>
 #include <QFile>
@@ -88,6 +90,17 @@ void OpenCollection(Session& session, const QString& path)
     session.CollectionDb = Database::Open(path, &error);
     if (!session.CollectionDb)
         qFatal("bench collection not opened: %s", qPrintable(error.description));
+}
+
+void LoadCollection(Session& session, EntryList& list, const QString& path)
+{
+    OpenCollection(session, path);
+    DbError error;
+    ReadConfiguration(session, &error);
+    ReadParameters(session);
+    session.SharedRecordset = session.CollectionDb->Select(u"SELECT * FROM HEFTLIST ORDER BY Nr;"_s);
+    list.SetupGridColumns();
+    list.FillGrid(session);
 }
 
 QString CollectionCopy(int entries)

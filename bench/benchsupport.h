@@ -7,6 +7,7 @@
 #include <functional>
 
 namespace heft {
+class EntryList;
 class Session;
 }
 
@@ -36,6 +37,9 @@ QString CollectionCopy(int entries);
 // Opens a bench collection into the session; one that won't open ends the
 // run, since every figure after it would be meaningless.
 void OpenCollection(Session& session, const QString& path);
+// What the program does at start: open, read the configuration, fill the
+// full list from the snapshot sorted by number.
+void LoadCollection(Session& session, EntryList& list, const QString& path);
 
 } // namespace heft::bench
 

@@ -3,7 +3,6 @@
 
 #include "benchsupport.h"
 
-#include "core/config.h"
 #include "core/session.h"
 #include "details/detailwindow.h"
 #include "mainwin/entrylist.h"
@@ -19,14 +18,8 @@ double DetailOpenSaveMs(int entries)
 {
     const QString path = heft::bench::CollectionCopy(entries);
     heft::Session session;
-    heft::bench::OpenCollection(session, path);
-    heft::DbError error;
-    heft::ReadConfiguration(session, &error);
-    heft::ReadParameters(session);
-    session.SharedRecordset = session.CollectionDb->Select(u"SELECT * FROM HEFTLIST ORDER BY Nr;"_s);
     heft::EntryList list;
-    list.SetupGridColumns();
-    list.FillGrid(session);
+    heft::bench::LoadCollection(session, list, path);
     list.FindAndShowRow(entries / 2);
     heft::ScriptedPrompter prompter;
     session.prompter = &prompter;

@@ -3,7 +3,6 @@
 
 #include "benchsupport.h"
 
-#include "core/config.h"
 #include "core/session.h"
 #include "mainwin/entrylist.h"
 
@@ -14,17 +13,11 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // Open, configuration, snapshot, grid model filled and sorted by number.
-void LoadCollection(const QString& path, int entries)
+void LoadAndCount(const QString& path, int entries)
 {
     heft::Session session;
-    heft::bench::OpenCollection(session, path);
-    heft::DbError error;
-    heft::ReadConfiguration(session, &error);
-    heft::ReadParameters(session);
-    session.SharedRecordset = session.CollectionDb->Select(u"SELECT * FROM HEFTLIST ORDER BY Nr;"_s);
     heft::EntryList list;
-    list.SetupGridColumns();
-    list.FillGrid(session);
+    heft::bench::LoadCollection(session, list, path);
     if (list.Heftliste.Rows() != entries + 1)
         qFatal("bench list has %d rows instead of %d", list.Heftliste.Rows() - 1, entries);
 }
@@ -32,7 +25,7 @@ void LoadCollection(const QString& path, int entries)
 double LoadMs(int entries)
 {
     const QString path = heft::bench::CollectionCopy(entries);
-    const double ms = heft::bench::MedianMs(5, [&] { LoadCollection(path, entries); });
+    const double ms = heft::bench::MedianMs(5, [&] { LoadAndCount(path, entries); });
     QFile::remove(path);
     return ms;
 }
@@ -44,7 +37,7 @@ HEFT_BENCH_FIGURE(load_100k_ms, [] { return LoadMs(100000); })
 HEFT_BENCH_FIGURE(load_100k_peak_mb, [] {
     const QString path = heft::bench::CollectionCopy(100000);
     heft::bench::ResetPeakMemory();
-    LoadCollection(path, 100000);
+    LoadAndCount(path, 100000);
     QFile::remove(path);
     return heft::bench::PeakMemoryMb();
 })
