@@ -1,4 +1,5 @@
 #include "clicommands.h"
+#include "cliexchange.h"
 
 #include "core/config.h"
 #include "core/schema.h"
@@ -24,7 +25,11 @@ const QString Usage = u"Aufruf:\n"
                       "  heftarium-cli --db DATEI info\n"
                       "  heftarium-cli --db DATEI sql \"ANWEISUNG\"\n"
                       "  heftarium-cli --db DATEI filter FELD:VERGLEICH:WERT [UND|ODER|EXOR FELD:VERGLEICH:WERT ...]\n"
-                      "  heftarium-cli --db DATEI fill FELD:VERGLEICH:WERT [...] --target SPALTE --value WERT\n"_s;
+                      "  heftarium-cli --db DATEI fill FELD:VERGLEICH:WERT [...] --target SPALTE --value WERT\n"
+                      "  heftarium-cli --db DATEI import DATEI [--mode 0|1|2] [--details]\n"
+                      "  heftarium-cli --db DATEI export BASIS --format dat,txt,html [--details] [--gelesen] [--zyklus]"
+                      " [FELD:VERGLEICH:WERT ...]\n"
+                      "  heftarium-cli --cycle-db DATEI cycles export\n"_s;
 
 const QString NothingFound =
     u"Zu den gegebenen Filter-Kriterien konnten in der Datenbank leider keine Einträge gefunden werden.\n"_s;
@@ -320,6 +325,8 @@ int RunCli(const QStringList& arguments, QTextStream& out, QTextStream& err)
 {
     if (arguments.value(0) == u"create")
         return Create(arguments, out, err);
+    if (arguments.value(0) == u"--cycle-db")
+        return CyclesCommand(arguments, out, err);
     if (arguments.value(0) != u"--db" || arguments.size() < 3) {
         err << Usage;
         return 2;
@@ -341,6 +348,10 @@ int RunCli(const QStringList& arguments, QTextStream& out, QTextStream& err)
         return Filter(session, arguments.mid(3), out, err);
     if (command == u"fill")
         return Fill(session, arguments.mid(3), out, err);
+    if (command == u"import")
+        return ImportCommand(session, arguments.mid(3), out, err);
+    if (command == u"export")
+        return ExportCommand(session, arguments.mid(3), out, err);
     err << Usage;
     return 2;
 }
