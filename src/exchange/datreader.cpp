@@ -65,7 +65,7 @@ const ListRecord& ListReader::Read(const QString& line)
     const double auflage = Val(r.Auflage);
     r.AuflageNumber = auflage < 1 || auflage > m_limits.MaxAuflage ? 0 : static_cast<int>(auflage);
     r.Zyklus = r.Zyklus.toUpper();
-    if (r.Zyklus.isEmpty() || !IsRomanText(r.Zyklus))
+    if (m_cycleCheck == CycleCheck::Roman && (r.Zyklus.isEmpty() || !IsRomanText(r.Zyklus)))
         r.Zyklus = u"- - -"_s;
     r.Gelesen = IsJa(r.GL);
     if (!r.Gelesen)

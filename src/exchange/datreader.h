@@ -15,11 +15,20 @@ struct DatLimits {
 
 class ListReader {
 public:
-    explicit ListReader(DatLimits limits = {}) : m_limits(limits) {}
+    // Roman: a cycle that is no roman numeral reads as "- - -", as the
+    // import takes it. UpperCaseOnly: the cycle is only made upper case, as
+    // the text and HTML exports show it.
+    enum class CycleCheck { Roman, UpperCaseOnly };
+
+    explicit ListReader(DatLimits limits = {}, CycleCheck cycleCheck = CycleCheck::Roman)
+        : m_limits(limits), m_cycleCheck(cycleCheck)
+    {
+    }
     const ListRecord& Read(const QString& line);
 
 private:
     DatLimits m_limits;
+    CycleCheck m_cycleCheck;
     ListRecord m_record;
 };
 
