@@ -1,0 +1,224 @@
+// frm_export over a real main window: the first checked format picks the
+// save dialog, no format gets the message, a cancel is told, a run shows
+// its result and leaves the files; a filter list is exported as filtered.
+
+#include "exportfixture.h"
+#include "testmain.h"
+
+#include "exchange/exportdialog.h"
+#include "filter/filtermode.h"
+#include "filter/filterrun.h"
+#include "mainwin/mainwindow.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCheckBox>
+#include <QDesktopServices>
+#include <QDir>
+#include <QGroupBox>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+#include <QUrl>
+
+using namespace Qt::StringLiterals;
+using namespace heft;
+using namespace heft::test;
+
+namespace {
+
+struct Asked {
+    QString title, folder, filter, suffix;
+    int count = 0;
+};
+
+struct ExportWindow {
+    ExportWindow() {
+        AddExportEntries(collection);
+        QDir(collection.session.DataFolder).mkpath(u"export"_s);
+        window.LoadList(collection.session);
+        InstallFilterMode(window);
+    }
+    // Answers the save dialog with {export}/Liste plus the suffix it was
+    // asked for, or with nothing.
+    ExportFileChooser Chooser(bool cancel = false) {
+        return [this, cancel](QWidget*, const QString& title, const QString& folder, const QString& filter,
+                              const QString& suffix) {
+            asked = {title, folder, filter, suffix, asked.count + 1};
+            return cancel ? QString() : QDir(folder).filePath(u"Liste."_s + suffix);
+        };
+    }
+    QString Path(const QString& suffix) const {
+        return QDir(collection.session.DataFolder).filePath(u"export/Liste"_s + suffix);
+    }
+
+    TempCollection collection;
+    MainWindow window;
+    Asked asked;
+};
+
+template <typename T> T* Child(QWidget& parent, const QString& name) {
+    auto* child = parent.findChild<T*>(name);
+    if (!child)
+        qFatal("no %s", qPrintable(name));
+    return child;
+}
+
+void Check(QWidget& dialog, const QString& flags) {
+    const QList<std::pair<QChar, QString>> boxes = {{u'c', u"chk_csv"_s},     {u't', u"chk_text"_s},
+                                                    {u'h', u"chk_html"_s},    {u'd', u"chk_details"_s},
+                                                    {u'g', u"chk_gelesen"_s}, {u'z', u"chk_zyklus"_s}};
+    for (const auto& [flag, name] : boxes)
+        Child<QCheckBox>(dialog, name)->setChecked(flags.contains(flag));
+}
+
+QString Result(QWidget& dialog) {
+    return Child<QPlainTextEdit>(dialog, u"txt_result"_s)->toPlainText();
+}
+
+// Takes the place of the desktop's file manager.
+class UrlCatcher : public QObject {
+    Q_OBJECT
+
+  public Q_SLOTS:
+    void Open(const QUrl& url) { urls << url; }
+
+  public:
+    QList<QUrl> urls;
+};
+
+} // namespace
+
+class TestExportWindow : public QObject {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    // The captions the user reads, by the names the code knows them by.
+    void controls() {
+        ExportWindow w;
+        ExportDialog dialog(w.window, w.Chooser());
+        QCOMPARE(dialog.objectName(), u"frm_export"_s);
+        QCOMPARE(dialog.windowTitle(), u"Einträge exportieren"_s);
+        const QList<std::pair<QString, QString>> buttons = {{u"btn_expdir"_s, u"&Verzeichnis Öffnen"_s},
+                                                            {u"btn_choose"_s, u"&Datei auswählen ..."_s},
+                                                            {u"btn_ok"_s, u"&Schließen"_s}};
+        for (const auto& [name, text] : buttons)
+            QCOMPARE(Child<QPushButton>(dialog, name)->text(), text);
+        const QList<std::pair<QString, QString>> boxes = {
+            {u"chk_zyklus"_s, u"leere(r) Zyklus/Auflage als '-'"_s},
+            {u"chk_gelesen"_s, u"mit Spalte GE (gelesen)"_s},
+            {u"chk_details"_s, u"mit Detailinfo"_s},
+            {u"chk_text"_s, u"TEXT (ASCII Liste)"_s},
+            {u"chk_html"_s, u"HTML (I-Web Liste)"_s},
+            {u"chk_csv"_s, u"CSV (Ex/Import Liste)"_s}};
+        for (const auto& [name, text] : boxes)
+            QCOMPARE(Child<QCheckBox>(dialog, name)->text(), text);
+        QCOMPARE(Child<QGroupBox>(dialog, u"frm_detail"_s)->title(), u"Datenumfang"_s);
+        QCOMPARE(Child<QGroupBox>(dialog, u"frm_format"_s)->title(), u"Format"_s);
+        QCOMPARE(Child<QGroupBox>(dialog, u"frm_result"_s)->title(), u"Export Ergebnis"_s);
+        QVERIFY(Child<QPlainTextEdit>(dialog, u"txt_result"_s)->isReadOnly());
+    }
+
+    void formats_data() {
+        QTest::addColumn<QString>("flags");
+        QTest::addColumn<QString>("suffix"); // of the save dialog, empty when none opens
+        QTest::addColumn<QStringList>("files");
+        QTest::newRow("csv before text")
+            << u"tcd"_s << u"dat"_s
+            << QStringList{u".dat"_s, u"_Details.dat"_s, u".txt"_s, u"_Details.txt"_s};
+        QTest::newRow("text before html") << u"ht"_s << u"txt"_s << QStringList{u".txt"_s, u".html"_s};
+        QTest::newRow("html alone") << u"hd"_s << u"html"_s << QStringList{u".html"_s, u"_Details/1.html"_s};
+        QTest::newRow("no format") << u"dgz"_s << QString() << QStringList();
+    }
+
+    void formats() {
+        QFETCH(QString, flags);
+        QFETCH(QString, suffix);
+        QFETCH(QStringList, files);
+        ExportWindow w;
+        ExportDialog dialog(w.window, w.Chooser());
+        dialog.show();
+        Check(dialog, flags);
+        Child<QPushButton>(dialog, u"btn_choose"_s)->click();
+
+        if (suffix.isEmpty()) {
+            QCOMPARE(w.asked.count, 0);
+            QCOMPARE(w.collection.prompter.asked.size(), 1);
+            const Message& message = w.collection.prompter.asked.first();
+            QCOMPARE(message.title, u"Fehlendes Export-Format"_s);
+            QCOMPARE(message.text, u"Bitte Export-Format auswählen.\r\n\r\n(CSV | TEXT | HTML)"_s);
+            QCOMPARE(message.icon, MessageIcon::Critical);
+            QVERIFY(QDir(w.Path(QString())).isEmpty());
+            return;
+        }
+        QCOMPARE(w.asked.count, 1);
+        QCOMPARE(w.asked.title, u"Bitte Export Datei angeben ..."_s);
+        QCOMPARE(w.asked.folder, QDir(w.collection.session.DataFolder).filePath(u"export"_s));
+        QCOMPARE(w.asked.filter, u"Heftarium-Exportdatei (*.%1)"_s.arg(suffix));
+        QCOMPARE(w.asked.suffix, suffix);
+        for (const QString& file : files)
+            QVERIFY2(QFile::exists(w.Path(file)), qPrintable(file));
+        for (const QString& file : {u".dat"_s, u".txt"_s, u".html"_s})
+            QCOMPARE(QFile::exists(w.Path(file)), files.contains(file));
+        QVERIFY(Result(dialog).startsWith(u"Es wurden 3/"_s));
+        QVERIFY(Result(dialog).contains(u"\n "_s + QDir::toNativeSeparators(w.Path(files.first())) + u'\n'));
+        QCOMPARE(w.window.StatusPanelText(5), u"Fertig und Bereit."_s);
+        QVERIFY(dialog.isEnabled());
+    }
+
+    void cancel() {
+        ExportWindow w;
+        ExportDialog dialog(w.window, w.Chooser(true));
+        Check(dialog, u"c"_s);
+        Child<QPushButton>(dialog, u"btn_choose"_s)->click();
+        QCOMPARE(Result(dialog), u"Keine Export Datei ausgewählt."_s);
+        QVERIFY(QDir(w.asked.folder).isEmpty());
+    }
+
+    // Opened by the menu command, modal, on the filter list when a filter
+    // is in force; Esc closes it when nothing runs.
+    void filterListFromMenu() {
+        ExportWindow w;
+        EntryList& list = w.window.List();
+        QVERIFY(RunFilterStatement(w.collection.session, list,
+                                   u"SELECT * FROM HEFTLIST WHERE Nr>1 ORDER BY Nr;"_s) == 2);
+        list.ShowFilterGrid(true);
+        FilterStateOf(w.window)->FilterText = u"Nr größer als 1 "_s;
+        InstallExportWindow(w.window, w.Chooser());
+        QVERIFY(w.window.Command(u"mnu_export"_s)->isEnabled());
+
+        bool opened = false, closedByEsc = false;
+        QTimer::singleShot(0, [&] {
+            QWidget* dialog = QApplication::activeModalWidget();
+            opened = dialog && dialog->objectName() == u"frm_export";
+            if (!opened)
+                return;
+            Check(*dialog, u"tg"_s);
+            Child<QPushButton>(*dialog, u"btn_choose"_s)->click();
+            dialog->grab().save(u"/tmp/shots/export_window.png"_s);
+            QTest::keyClick(dialog, Qt::Key_Escape);
+            closedByEsc = !dialog->isVisible();
+        });
+        w.window.Command(u"mnu_export"_s)->trigger();
+        QVERIFY(opened);
+        QVERIFY(closedByEsc);
+        const QStringList text = FileLines(w.Path(u".txt"_s));
+        QCOMPARE(text.size(), 2 + 2 + 2);
+        QCOMPARE(text.last(), u"Valdorin Heftromane gefiltert nach: Nr größer als 1  (2 Einträge)"_s);
+    }
+
+    void openFolder() {
+        ExportWindow w;
+        ExportDialog dialog(w.window, w.Chooser());
+        UrlCatcher catcher;
+        QDesktopServices::setUrlHandler(u"file"_s, &catcher, "Open");
+        Child<QPushButton>(dialog, u"btn_expdir"_s)->click();
+        QDesktopServices::unsetUrlHandler(u"file"_s);
+        QCOMPARE(catcher.urls, QList<QUrl>{QUrl::fromLocalFile(
+                                   QDir(w.collection.session.DataFolder).filePath(u"export"_s))});
+    }
+};
+
+HEFT_TEST(TestExportWindow)
+#include "tst_exportwindow.moc"
