@@ -1,0 +1,374 @@
+// The cycle window and its editor on a real cycle file: the list and the
+// line shown, removing the last cycle, new and changed cycles, the cycle
+// file, and a cycle file that can't be used.
+
+#include "testmain.h"
+#include "testsupport.h"
+
+#include "core/schema.h"
+#include "core/textfuncs.h"
+#include "cycles/cyclegrid.h"
+#include "cycles/cyclewindow.h"
+#include "cycles/cyclewindowinstall.h"
+#include "mainwin/mainwindow.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QDialog>
+#include <QDir>
+#include <QFile>
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QTest>
+#include <QTimer>
+
+#include <functional>
+
+using namespace Qt::StringLiterals;
+using namespace heft;
+using namespace heft::test;
+
+namespace {
+
+// Zyklus, NrVon, NrBis, ZeitVon, ZeitBis, Bezeichnung, Zyklusbereich (NULL
+// where the text is "NULL").
+using Cycles = QList<QStringList>;
+
+const Cycles ThreeCycles = {
+    {u"I"_s, u"1"_s, u"50"_s, u"-100"_s, u"20"_s, u"Die Größe  "_s, u"Aufbruch"_s},
+    {u"II"_s, u"51"_s, u"100"_s, u"20"_s, u"40"_s, u"Nebel"_s, u"NULL"_s},
+    {u"III"_s, u"101"_s, u"150"_s, u"40"_s, u"90"_s, u"Kaiser"_s, u"Aufbruch"_s},
+};
+
+QString SqlValue(const QString& value, bool text) {
+    if (value == u"NULL")
+        return value;
+    return text ? u"'"_s + QuoteSql(value) + u"'"_s : value;
+}
+
+struct Fixture {
+    explicit Fixture(const Cycles& cycles = ThreeCycles, const QString& entryCycle = u"II"_s) {
+        collection.Add(
+            {{7, u"Ava Lind"_s, u"Morgensonne"_s, 1, entryCycle}, {8, u"Bo Kern"_s, u"Nachtflug"_s}});
+        DbError error;
+        session().CycleDb = CreateCycleFile(collection.dir.filePath(u"Zyklus.mdb"_s), &error);
+        for (const QStringList& c : cycles)
+            CycleExec(u"INSERT INTO ZyklusListe VALUES (%1, %2, %3, %4, %5, %6, %7);"_s.arg(
+                SqlValue(c[0], true), c[1], c[2], c[3], c[4], SqlValue(c[5], true), SqlValue(c[6], true)));
+        window.LoadList(session());
+        window.List().FindAndShowRow(7);
+        InstallCycleWindow(window);
+    }
+    Session& session() { return collection.session; }
+    void CycleExec(const QString& sql) { QVERIFY(!session().CycleDb->Execute(sql)); }
+    QString CycleValue(const QString& sql) { return session().CycleDb->SelectValue(sql).toString(); }
+    CycleWindow* Open() {
+        window.Command(u"mnu_zyklus"_s)->trigger();
+        return OpenCycleWindow(window);
+    }
+    QAction* Action(CycleWindow& w, const QString& name) { return w.findChild<QAction*>(name); }
+
+    TempCollection collection;
+    MainWindow window;
+};
+
+QStringList Line(const CycleGrid& grid, int index) {
+    QStringList cells;
+    for (int column = 0; column < grid.columnCount(); ++column)
+        cells << grid.item(index, column)->text();
+    return cells;
+}
+
+QLineEdit* Box(QWidget& dialog, const QString& name) {
+    return dialog.findChild<QLineEdit*>(name);
+}
+
+// Runs an editor command; step works in the modal editor, which must be
+// closed when it returns.
+void InEditor(QAction* command, const std::function<void(QDialog&)>& step) {
+    bool ran = false;
+    QTimer::singleShot(0, [&] {
+        auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        QVERIFY(dialog && dialog->objectName() == u"frm_editzyk"_s);
+        ran = true;
+        step(*dialog);
+        if (dialog->isVisible()) {
+            dialog->reject();
+            QFAIL("the editor stayed open");
+        }
+    });
+    command->trigger();
+    QVERIFY(ran);
+}
+
+void Type(QDialog& dialog, const QString& name, const QString& text) {
+    QLineEdit* box = Box(dialog, name);
+    box->selectAll();
+    box->del();
+    QTest::keyClicks(box, text);
+}
+
+} // namespace
+
+class TestCycleWindow : public QObject {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void fill_data() {
+        QTest::addColumn<QString>("entryCycle");
+        QTest::addColumn<Cycles>("extra");
+        QTest::addColumn<int>("shown");
+        QTest::newRow("cycle of the entry") << u"II"_s << Cycles{} << 1;
+        QTest::newRow("cycle not in the list") << u"XX"_s << Cycles{} << 0;
+        QTest::newRow("key twice: the last")
+            << u"II"_s << Cycles{{u"II"_s, u"151"_s, u"160"_s, u"1"_s, u"2"_s, u"Doppelt"_s, u""_s}} << 3;
+    }
+
+    void fill() {
+        QFETCH(QString, entryCycle);
+        QFETCH(Cycles, extra);
+        QFETCH(int, shown);
+        Fixture f(ThreeCycles + extra, entryCycle);
+        QVERIFY(f.window.IsCommandEnabled(u"mnu_zyklus"_s));
+        QVERIFY(f.window.Command(u"zykinfo"_s)->isEnabled());
+        CycleWindow* w = f.Open();
+        QVERIFY(w && w->isVisible() && !w->isModal());
+        QVERIFY(f.session().EditAccepted);
+        const CycleGrid& grid = w->Grid();
+        QCOMPARE(grid.CycleCount(), 3 + extra.size());
+        QCOMPARE(Line(grid, 0), (QStringList{u"1"_s, u"I"_s, u"1"_s, u"50"_s, u"-100"_s, u"20"_s,
+                                             u"Die Größe  "_s, u"Aufbruch"_s}));
+        QCOMPARE(grid.item(1, 7)->text(), QString()); // NULL
+        QCOMPARE(grid.horizontalHeaderItem(7)->text(), u"Groß-Zyklus"_s);
+        QCOMPARE(grid.currentRow(), shown);
+        QCOMPARE(grid.selectedItems().size(), 7); // columns 1 to 7
+        QCOMPARE(f.window.StatusPanelText(5), u"Fertig und Bereit."_s);
+        // The command again brings the same window forward.
+        QCOMPARE(f.Open(), w);
+        QCOMPARE(f.window.findChildren<CycleWindow*>().size(), 1);
+    }
+
+    void unusableFile_data() {
+        QTest::addColumn<bool>("open");
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("missing") << false << u"Probleme beim Öffnen der Zyklus-DB"_s
+                                 << u"Die Zyklus Datenbank\rkonnte nicht geöffnet werden!"_s;
+        QTest::newRow("no cycle table") << true << u"Probleme beim Lesen der Zyklus-DB"_s
+                                        << u"Die Zyklus Datenbank\rkonnte nicht gelesen werden!"_s;
+    }
+
+    void unusableFile() {
+        QFETCH(bool, open);
+        QFETCH(QString, title);
+        QFETCH(QString, text);
+        Fixture f;
+        if (open)
+            f.CycleExec(u"DROP TABLE ZyklusListe;"_s);
+        else
+            f.session().CycleDb.reset();
+        // The main window keeps the command off without a cycle file.
+        InstallCycleWindow(f.window);
+        QCOMPARE(f.window.IsCommandEnabled(u"mnu_zyklus"_s), open);
+        f.session().EditAccepted = true;
+        CycleWindow w(f.window);
+        w.Load();
+        QVERIFY(!w.isVisible());
+        QVERIFY(!f.session().EditAccepted);
+        QCOMPARE(f.collection.prompter.asked.size(), 1);
+        const Message& message = f.collection.prompter.asked[0];
+        QCOMPARE(message.title, title);
+        QCOMPARE(message.text, text);
+        QCOMPARE(message.icon, MessageIcon::Critical);
+        if (open) {
+            f.Open();
+            QVERIFY(!OpenCycleWindow(f.window));
+        }
+    }
+
+    void deleteLast_data() {
+        QTest::addColumn<int>("cycles");
+        QTest::addColumn<Answer>("answer");
+        QTest::addColumn<int>("left");
+        QTest::newRow("yes") << 3 << Answer::Yes << 2;
+        QTest::newRow("no") << 3 << Answer::No << 3;
+        QTest::newRow("yes, one stays") << 2 << Answer::Yes << 1;
+    }
+
+    void deleteLast() {
+        QFETCH(int, cycles);
+        QFETCH(Answer, answer);
+        QFETCH(int, left);
+        Fixture f(ThreeCycles.mid(0, cycles));
+        CycleWindow* w = f.Open();
+        QAction* remove = f.Action(*w, u"zmnu_delete"_s);
+        QVERIFY(remove->isEnabled());
+        f.collection.prompter.answers = {answer};
+        remove->trigger();
+        const Message& question = f.collection.prompter.asked.value(0);
+        QCOMPARE(question.title, u"Rückfrage Löschen"_s);
+        QCOMPARE(question.text, cycles == 3 ? u"Zykluseintrag #3 (III)\r'Kaiser'\rwirklich löschen?"_s
+                                            : u"Zykluseintrag #2 (II)\r'Nebel'\rwirklich löschen?"_s);
+        QCOMPARE(question.defaultButton, Answer::No);
+        QCOMPARE(w->Grid().CycleCount(), left);
+        QCOMPARE(f.CycleValue(u"SELECT COUNT(*) FROM ZyklusListe;"_s).toInt(), left);
+        QCOMPARE(remove->isEnabled(), left >= 2);
+    }
+
+    void newCycle() {
+        Fixture f(ThreeCycles.mid(0, 1));
+        CycleWindow* w = f.Open();
+        QVERIFY(!f.Action(*w, u"zmnu_delete"_s)->isEnabled());
+        InEditor(f.Action(*w, u"zmnu_insert"_s), [](QDialog& dialog) {
+            QCOMPARE(dialog.windowTitle(), u"Neuen Zyklus erstellen ..."_s);
+            QStringList shown;
+            for (const QString& name : {u"txt_zyklus"_s, u"txt_vonnr"_s, u"txt_bisnr"_s, u"txt_vonjahr"_s,
+                                        u"txt_bisjahr"_s, u"txt_bez"_s, u"txt_gz"_s})
+                shown << Box(dialog, name)->text();
+            QCOMPARE(shown, (QStringList{u"II"_s, u"51"_s, u"100"_s, u"20"_s, u"20"_s, u"Die Größe  "_s,
+                                         u"Aufbruch"_s}));
+            // Keys: the key box takes none, the number boxes digits only,
+            // the year boxes a minus anywhere.
+            QTest::keyClicks(Box(dialog, u"txt_zyklus"_s), u"X1"_s);
+            QCOMPARE(Box(dialog, u"txt_zyklus"_s)->text(), u"II"_s);
+            Type(dialog, u"txt_vonnr"_s, u"6a-0"_s);
+            Type(dialog, u"txt_vonjahr"_s, u"15-"_s);
+            Type(dialog, u"txt_bisjahr"_s, u"-7x"_s);
+            QCOMPARE(Box(dialog, u"txt_vonnr"_s)->text(), u"60"_s);
+            QCOMPARE(Box(dialog, u"txt_vonjahr"_s)->text(), u"15-"_s);
+            QCOMPARE(Box(dialog, u"txt_bisjahr"_s)->text(), u"-7"_s);
+            // 60 to 100 is refused as text ("60" > "100"): the start takes the
+            // end, the box has the focus, and the window stays.
+            QTest::keyClick(Box(dialog, u"txt_vonjahr"_s), Qt::Key_Return);
+            QVERIFY(dialog.isVisible());
+            QCOMPARE(Box(dialog, u"txt_vonnr"_s)->text(), u"100"_s);
+            QCOMPARE(dialog.focusWidget(), Box(dialog, u"txt_vonnr"_s));
+            // "15-" is no number: the statement fails, and the window closes
+            // without a word.
+            dialog.findChild<QPushButton*>(u"btn_ok"_s)->click();
+        });
+        QCOMPARE(w->Grid().CycleCount(), 1);
+        QVERIFY(f.collection.prompter.asked.isEmpty());
+
+        InEditor(f.Action(*w, u"zmnu_insert"_s), [](QDialog& dialog) {
+            Type(dialog, u"txt_bisnr"_s, u"99"_s);
+            Type(dialog, u"txt_vonjahr"_s, u"-15"_s);
+            Type(dialog, u"txt_bez"_s, u"Ka'Rell"_s);
+            Type(dialog, u"txt_gz"_s, QString());
+            QTest::keyClick(Box(dialog, u"txt_bisnr"_s), Qt::Key_Enter);
+        });
+        QCOMPARE(f.CycleValue(
+                     u"SELECT Zyklus || '|' || NrVon || '|' || NrBis || '|' || ZeitVon || '|' || ZeitBis || "
+                     "'|' || Bezeichnung || '|' || Zyklusbereich FROM ZyklusListe WHERE NrVon=51;"_s),
+                 u"II|51|99|-15|20|Ka'Rell|"_s);
+        const CycleGrid& grid = w->Grid();
+        QCOMPARE(Line(grid, 1), (QStringList{u"2"_s, u"II"_s, u"51"_s, u"99"_s, u"-15"_s, u"20"_s,
+                                             u"Ka'Rell"_s, QString()}));
+        QCOMPARE(grid.currentRow(), 1);
+        QVERIFY(f.Action(*w, u"zmnu_delete"_s)->isEnabled());
+    }
+
+    void changeCycle_data() {
+        QTest::addColumn<bool>("accept");
+        QTest::newRow("accepted") << true;
+        QTest::newRow("discarded") << false;
+    }
+
+    void changeCycle() {
+        QFETCH(bool, accept);
+        Fixture f;
+        CycleWindow* w = f.Open();
+        CycleGrid& grid = w->Grid();
+        // A double click on a line edits it.
+        const QRect cell = grid.visualItemRect(grid.item(2, 3));
+        QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, cell.center());
+        QTimer::singleShot(0, [&] {
+            auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            QVERIFY(dialog);
+            QCOMPARE(dialog->windowTitle(), u"Zykluseintrag bearbeiten ..."_s);
+            QCOMPARE(Box(*dialog, u"txt_bez"_s)->text(), u"Kaiser"_s);
+            Type(*dialog, u"txt_bisnr"_s, u"160"_s);
+            Type(*dialog, u"txt_gz"_s, u"Der Kaiser's Zeit"_s);
+            if (accept)
+                dialog->findChild<QPushButton*>(u"btn_ok"_s)->click();
+            else
+                QTest::keyClick(Box(*dialog, u"txt_gz"_s), Qt::Key_Escape);
+        });
+        QTest::mouseDClick(grid.viewport(), Qt::LeftButton, {}, cell.center());
+        QVERIFY(!QApplication::activeModalWidget());
+        const QStringList expected = accept
+                                         ? QStringList{u"3"_s,  u"III"_s, u"101"_s,    u"160"_s,
+                                                       u"40"_s, u"90"_s,  u"Kaiser"_s, u"Der Kaiser's Zeit"_s}
+                                         : QStringList{u"3"_s,  u"III"_s, u"101"_s,    u"150"_s,
+                                                       u"40"_s, u"90"_s,  u"Kaiser"_s, u"Aufbruch"_s};
+        QCOMPARE(Line(grid, 2), expected);
+        QCOMPARE(f.CycleValue(u"SELECT NrBis || '|' || Zyklusbereich FROM ZyklusListe WHERE Zyklus='III';"_s),
+                 expected[3] + u"|"_s + expected[7]);
+        QCOMPARE(grid.CycleCount(), 3);
+    }
+
+    void exportFile_data() {
+        QTest::addColumn<int>("cycles");
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<QString>("opening");
+        const QByteArray header = "[Valdorin Zyklen]\r\n";
+        const QByteArray first = "\"I\";\"1\";\"50\";\"-100\";\"20\";\"Die Gr\xf6\xdf"
+                                 "e\";\"Aufbruch\";\r\n";
+        QTest::newRow("one") << 1 << header + first << u"Ein Eintrag wurde in die Datei\r'"_s;
+        QTest::newRow("three") << 3
+                               << header + first + "\"II\";\"51\";\"100\";\"20\";\"40\";\"Nebel\";\"\";\r\n" +
+                                      "\"III\";\"101\";\"150\";\"40\";\"90\";\"Kaiser\";\"Aufbruch\";\r\n"
+                               << u"Insgesamt 3 Einträge wurden in die Datei\r'"_s;
+    }
+
+    void exportFile() {
+        QFETCH(int, cycles);
+        QFETCH(QByteArray, bytes);
+        QFETCH(QString, opening);
+        Fixture f(ThreeCycles.mid(0, cycles));
+        CycleWindow* w = f.Open();
+        f.Action(*w, u"zmnu_import"_s)->trigger(); // does nothing
+        QVERIFY(f.collection.prompter.asked.isEmpty());
+        f.Action(*w, u"zmnu_export"_s)->trigger();
+        const QString path = QDir(f.session().DataFolder).filePath(u"export/Valdorin-Zyklus.dat"_s);
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(file.readAll(), bytes);
+        QCOMPARE(f.collection.prompter.asked.size(), 1);
+        const Message& message = f.collection.prompter.asked[0];
+        QCOMPARE(message.title, u"Export Ergebnis"_s);
+        QCOMPARE(message.icon, MessageIcon::Information);
+        QCOMPARE(message.text, opening + QDir::toNativeSeparators(path) +
+                                   u"'\rgesichert (%1 Bytes Dateilänge)."_s.arg(bytes.size()));
+        QCOMPARE(f.window.StatusPanelText(5), u"Fertig und Bereit."_s);
+    }
+
+    // Pictures of both windows with the shipped cycle list, to look at; the
+    // columns must fit the window without a horizontal scroll bar.
+    void pictures() {
+        Fixture f(Cycles{});
+        QFile source(QStringLiteral(HEFTARIUM_DATA_SOURCES "/valdorin/Valdorin-Zyklus.dat"));
+        QVERIFY(source.open(QIODevice::ReadOnly));
+        const QStringList lines = QString::fromLatin1(source.readAll()).split(u"\r\n"_s, Qt::SkipEmptyParts);
+        for (const QString& line : lines.mid(1)) {
+            QStringList c = line.mid(1, line.size() - 3).split(u"\";\""_s);
+            f.CycleExec(u"INSERT INTO ZyklusListe VALUES ('%1', %2, %3, %4, %5, '%6', '%7');"_s.arg(
+                c[0], c[1], c[2], c[3], c[4], QuoteSql(c[5]), QuoteSql(c[6])));
+        }
+        CycleWindow* w = f.Open();
+        QVERIFY(w->Grid().width() >= w->Grid().ContentWidth());
+        QDir().mkpath(u"/tmp/shots"_s);
+        QVERIFY(w->grab().save(u"/tmp/shots/cycles_window.png"_s));
+        for (const QString& name : {u"zmnu_edit"_s, u"zmnu_insert"_s}) {
+            InEditor(f.Action(*w, name), [name](QDialog& dialog) {
+                QVERIFY(dialog.grab().save(u"/tmp/shots/cycles_%1.png"_s.arg(name.mid(5))));
+                dialog.reject();
+            });
+        }
+    }
+};
+
+HEFT_TEST(TestCycleWindow)
+#include "tst_cyclewindow.moc"
