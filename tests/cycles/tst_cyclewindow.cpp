@@ -19,6 +19,7 @@
 #include <QFile>
 #include <QHeaderView>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTest>
@@ -148,6 +149,11 @@ class TestCycleWindow : public QObject {
         // The command again brings the same window forward.
         QCOMPARE(f.Open(), w);
         QCOMPARE(f.window.findChildren<CycleWindow*>().size(), 1);
+        // The right-click menu is the edit menu, with editing as its default.
+        QCOMPARE(w->findChild<QMenu*>(u"zmnu_bearbeiten"_s)->defaultAction(), f.Action(*w, u"zmnu_edit"_s));
+        QVERIFY(QTest::qWaitForWindowActive(w));
+        QTest::keyClick(&w->Grid(), Qt::Key_Escape);
+        QVERIFY(!OpenCycleWindow(f.window));
     }
 
     void unusableFile_data() {
