@@ -17,7 +17,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-double ExportAllMs(int entries) {
+double ExportAllMs(int entries)
+{
     const QString path = heft::bench::CollectionCopy(entries);
     heft::Session session;
     heft::EntryList entryList;
@@ -45,8 +46,8 @@ double ExportAllMs(int entries) {
         }
     };
     QString result;
-    const double ms = heft::bench::MedianMs(
-        3, [&] { result = heft::RunExportChain(session, list, target, options, feedback); });
+    const double ms =
+        heft::bench::MedianMs(3, [&] { result = heft::RunExportChain(session, list, target, options, feedback); });
     if (!result.contains(u"%1/%1 Einträge"_s.arg(entries)) ||
         QDir(target.DetailsFolder()).entryList(QDir::Files).size() != entries)
         qFatal("bench export incomplete");

@@ -1,5 +1,6 @@
 #include "clicommands.h"
 #include "cliexchange.h"
+#include "clifilterwords.h"
 
 #include "core/config.h"
 #include "core/schema.h"
@@ -7,7 +8,6 @@
 #include "core/sqlwriters.h"
 #include "filter/columnfill.h"
 #include "filter/filterfields.h"
-#include "filter/filtergenerator.h"
 #include "mainwin/entrygridmodel.h"
 
 #include <QFileInfo>
@@ -31,9 +31,6 @@ const QString Usage = u"Aufruf:\n"
                       " [FELD:VERGLEICH:WERT ...]\n"
                       "  heftarium-cli --cycle-db DATEI cycles export\n"_s;
 
-const QString NothingFound =
-    u"Zu den gegebenen Filter-Kriterien konnten in der Datenbank leider keine Einträge gefunden werden.\n"_s;
-
 // The value behind an option such as "--series"; empty if absent.
 QString OptionValue(const QStringList& arguments, const QString& option)
 {
@@ -47,7 +44,7 @@ int Create(const QStringList& arguments, QTextStream& out, QTextStream& err)
     const QString series = OptionValue(arguments, u"--series"_s);
     const QString kind = OptionValue(arguments, u"--kind"_s);
     if (path.startsWith(u"--"_s) || path.isEmpty() || series.isEmpty() || kind.isEmpty()) {
-        err << Usage;
+        err << CliUsage();
         return 2;
     }
     DbError error;
@@ -98,101 +95,6 @@ int Sql(Session& session, const QString& statement, QTextStream& out)
     return error ? 1 : 0;
 }
 
-// One criteria row from "FIELD:COMPARE:VALUE" in the words of the filter
-// window: list fields take the list entry (or the pattern for ÄHNLICH),
-// Auflage "Keine" or "-2-", Gelesen "Ja"/"Nein", dates dd.mm.yyyy. The value
-// may itself hold colons. Empty text tells what was not understood.
-QString ParseFilterRow(Session& session, const QString& argument, FilterCriterion& row)
-{
-    const qsizetype first = argument.indexOf(u':');
-    const qsizetype second = first < 0 ? -1 : argument.indexOf(u':', first + 1);
-    if (second < 0)
-        return u"Kriterium ohne FELD:VERGLEICH:WERT: "_s + argument;
-    const QString name = argument.left(first);
-    const QString compare = argument.mid(first + 1, second - first - 1);
-    const QString value = argument.mid(second + 1);
-
-    const auto& fields = FilterFields();
-    const auto field = std::find_if(fields.begin(), fields.end(), [&](const FilterField& f) { return f.entry == name; });
-    if (field == fields.end())
-        return u"Unbekanntes Feld: "_s + name;
-    row.field = static_cast<int>(field - fields.begin());
-    row.compare = static_cast<int>(CompareWords(row.field).indexOf(compare));
-    if (row.compare < 0)
-        return u"Vergleich passt nicht zum Feld %1: %2"_s.arg(name, compare);
-
-    QStringList entries;
-    int* index = nullptr;
-    switch (field->editor) {
-    case FilterEditor::Txt:
-        row.text = value;
-        return {};
-    case FilterEditor::Dtp:
-        row.date = QDate::fromString(value, u"dd.MM.yyyy"_s);
-        return row.date.isValid() ? QString() : u"Kein Datum: "_s + value;
-    case FilterEditor::Aufl:
-        entries = AuflageEntries(session.Config.MaxAuflage);
-        index = &row.auflageIndex;
-        break;
-    case FilterEditor::Gel:
-        entries = YesNoEntries();
-        index = &row.yesNoIndex;
-        break;
-    case FilterEditor::Univ:
-        entries = ValueListEntries(*session.CollectionDb, row.field);
-        row.listCount = static_cast<int>(entries.size());
-        // For ÄHNLICH the list is hidden and stands at its first entry.
-        if (row.compare == 2) {
-            row.text = value;
-            return {};
-        }
-        row.listText = value;
-        index = &row.listIndex;
-        break;
-    }
-    *index = static_cast<int>(entries.indexOf(value));
-    return *index < 0 ? u"Nicht in der Liste von %1: %2"_s.arg(name, value) : QString();
-}
-
-// The criteria rows of a command line, with their joining words between
-// them. Returns 0, or the exit code after telling what was not understood.
-int ParseFilterWords(Session& session, const QStringList& words, QList<FilterCriterion>& rows, QTextStream& err)
-{
-    if (words.isEmpty() || words.size() % 2 == 0 || words.size() > 2 * FilterRowCount - 1) {
-        err << Usage;
-        return 2;
-    }
-    DbError error;
-    ReadConfiguration(session, &error);
-    for (qsizetype i = 0; i < words.size(); i += 2) {
-        FilterCriterion row;
-        if (const QString problem = ParseFilterRow(session, words[i], row); !problem.isEmpty()) {
-            err << problem << u'\n';
-            return 2;
-        }
-        if (i + 1 < words.size()) {
-            row.join = static_cast<int>(JoinWords().indexOf(words[i + 1]));
-            if (row.join <= 0) {
-                err << u"Unbekanntes Verknüpfungswort: "_s << words[i + 1] << u'\n';
-                return 2;
-            }
-        }
-        rows << row;
-    }
-    return 0;
-}
-
-// The statement of the rows, or the exit code after telling why there is none.
-int GenerateFilter(Session& session, const QList<FilterCriterion>& rows, FilterOutcome& outcome, QTextStream& err)
-{
-    outcome = FilterGenerator(session).Generate(rows);
-    if (!outcome.rejected)
-        return 0;
-    err << u"Ungültiger Zyklus in Kriterium %1: %2\n"_s.arg(outcome.rejectedRow + 1).arg(
-        outcome.shownTexts[outcome.rejectedRow]);
-    return 1;
-}
-
 int Filter(Session& session, const QStringList& words, QTextStream& out, QTextStream& err)
 {
     QList<FilterCriterion> rows;
@@ -216,7 +118,7 @@ int Filter(Session& session, const QStringList& words, QTextStream& out, QTextSt
         return 1;
     }
     if (found == 0)
-        out << NothingFound;
+        out << NothingFoundText();
     return 0;
 }
 
@@ -277,7 +179,7 @@ int Fill(Session& session, const QStringList& arguments, QTextStream& out, QText
     QStringList words = arguments;
     QString label, value;
     if (!TakeOption(words, u"--target"_s, label) || !TakeOption(words, u"--value"_s, value)) {
-        err << Usage;
+        err << CliUsage();
         return 2;
     }
     QList<FilterCriterion> rows;
@@ -311,7 +213,7 @@ int Fill(Session& session, const QStringList& arguments, QTextStream& out, QText
         return 1;
     }
     if (numbers.isEmpty()) {
-        out << NothingFound;
+        out << NothingFoundText();
         return 0;
     }
     session.ActiveCaption = [] { return ColumnFillCaption(); };
@@ -321,6 +223,11 @@ int Fill(Session& session, const QStringList& arguments, QTextStream& out, QText
 }
 } // namespace
 
+const QString& CliUsage()
+{
+    return Usage;
+}
+
 int RunCli(const QStringList& arguments, QTextStream& out, QTextStream& err)
 {
     if (arguments.value(0) == u"create")
@@ -328,7 +235,7 @@ int RunCli(const QStringList& arguments, QTextStream& out, QTextStream& err)
     if (arguments.value(0) == u"--cycle-db")
         return CyclesCommand(arguments, out, err);
     if (arguments.value(0) != u"--db" || arguments.size() < 3) {
-        err << Usage;
+        err << CliUsage();
         return 2;
     }
     Session session;
@@ -352,7 +259,7 @@ int RunCli(const QStringList& arguments, QTextStream& out, QTextStream& err)
         return ImportCommand(session, arguments.mid(3), out, err);
     if (command == u"export")
         return ExportCommand(session, arguments.mid(3), out, err);
-    err << Usage;
+    err << CliUsage();
     return 2;
 }
 

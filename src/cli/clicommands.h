@@ -9,5 +9,7 @@ namespace heft {
 
 // arguments without the program name, e.g. {"--db", "x.mdb", "info"}.
 int RunCli(const QStringList& arguments, QTextStream& out, QTextStream& err);
+// The lines that tell how the tool is called.
+const QString& CliUsage();
 
 } // namespace heft

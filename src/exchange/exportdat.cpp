@@ -27,12 +27,12 @@ constexpr int DetailsColumns = 13; // Nr, Ersterscheinung, Untertitel, Person1..
 // costs four statements per entry; the same rows come out of four
 // statements per run, in the order the single-entry statements give them.
 class DetailsBatch {
-  public:
+public:
     void Load(Database& db, const QList<int>& numbers);
     // The record of nr, or an empty text when it has no Details row.
     QString Line(int nr) const;
 
-  private:
+private:
     QHash<int, QString> m_details;
     QHash<int, QString> m_design;
     QHash<int, QString> m_status;
@@ -40,7 +40,8 @@ class DetailsBatch {
     QHash<int, QString> m_links;
 };
 
-QString NumberList(const QList<int>& numbers) {
+QString NumberList(const QList<int>& numbers)
+{
     QString text;
     for (const int nr : numbers) {
         if (!text.isEmpty())
@@ -50,7 +51,8 @@ QString NumberList(const QList<int>& numbers) {
     return text;
 }
 
-void DetailsBatch::Load(Database& db, const QList<int>& numbers) {
+void DetailsBatch::Load(Database& db, const QList<int>& numbers)
+{
     m_details.clear();
     m_design.clear();
     m_status.clear();
@@ -81,12 +83,11 @@ void DetailsBatch::Load(Database& db, const QList<int>& numbers) {
         if (m_design.contains(nr))
             continue;
         m_design.insert(nr, DatField(design.Text(1)) + DatField(design.Text(2)) +
-                                DatField(design.Int(3) != 0 ? u"Ja"_s : QString()) +
-                                DatField(design.Text(4)) + DatField(design.Text(5)));
+                                DatField(design.Int(3) != 0 ? u"Ja"_s : QString()) + DatField(design.Text(4)) +
+                                DatField(design.Text(5)));
     }
 
-    Query status =
-        db.Select(u"SELECT Nr, StatusWert FROM Status WHERE Nr IN (%1) ORDER BY Nr, ENum;"_s.arg(in));
+    Query status = db.Select(u"SELECT Nr, StatusWert FROM Status WHERE Nr IN (%1) ORDER BY Nr, ENum;"_s.arg(in));
     while (status.Next()) {
         const int nr = static_cast<int>(status.Int(0));
         m_status[nr] += DatField(status.Text(1));
@@ -99,7 +100,8 @@ void DetailsBatch::Load(Database& db, const QList<int>& numbers) {
             DatField(links.Text(2)) + DatField(links.Text(3)) + DatField(links.Text(4));
 }
 
-QString DetailsBatch::Line(int nr) const {
+QString DetailsBatch::Line(int nr) const
+{
     const auto details = m_details.constFind(nr);
     if (details == m_details.cend())
         return {};
@@ -111,14 +113,16 @@ QString DetailsBatch::Line(int nr) const {
 
 // The entry number of a row as the statements take it; rows without a
 // whole number have no details, as the statement on them would fail.
-std::optional<int> RowNumber(const EntryCells& cells) {
+std::optional<int> RowNumber(const EntryCells& cells)
+{
     bool ok = false;
     const int nr = Trim(cells[ColNr]).toInt(&ok);
     return ok ? std::optional<int>(nr) : std::nullopt;
 }
 
-int WriteDetailsFile(Database& db, const Configuration& config, const ExportList& list,
-                     const ExportTarget& target, const ExportFeedback& feedback) {
+int WriteDetailsFile(Database& db, const Configuration& config, const ExportList& list, const ExportTarget& target,
+                     const ExportFeedback& feedback)
+{
     DatOutputFile file;
     file.Open(target.Path(u"_Details.dat"_s));
     file.WriteLine(DetailsHeader(config.SeriesName));
@@ -147,7 +151,8 @@ int WriteDetailsFile(Database& db, const Configuration& config, const ExportList
 
 } // namespace
 
-QString ExportListLine(const EntryCells& cells) {
+QString ExportListLine(const EntryCells& cells)
+{
     ListRecord record;
     record.Nr = cells[ColNr];
     record.Autor = cells[ColAutor];
@@ -159,8 +164,9 @@ QString ExportListLine(const EntryCells& cells) {
     return ListLine(record);
 }
 
-int WriteDatFiles(Database& db, const Configuration& config, const ExportList& list,
-                  const ExportTarget& target, const ExportOptions& options, const ExportFeedback& feedback) {
+int WriteDatFiles(Database& db, const Configuration& config, const ExportList& list, const ExportTarget& target,
+                  const ExportOptions& options, const ExportFeedback& feedback)
+{
     feedback.Status(u"Exportiere Einträge ..."_s);
     const int rows = static_cast<int>(list.rows.size());
     feedback.Start(options.details ? 2 * rows - 1 : rows);

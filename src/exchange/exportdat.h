@@ -16,7 +16,7 @@ QString ExportListLine(const EntryCells& cells);
 
 // Writes {base}.dat and, with options.details, {base}_Details.dat. Returns
 // the number of entries that had a Details row (0 without details).
-int WriteDatFiles(Database& db, const Configuration& config, const ExportList& list,
-                  const ExportTarget& target, const ExportOptions& options, const ExportFeedback& feedback);
+int WriteDatFiles(Database& db, const Configuration& config, const ExportList& list, const ExportTarget& target,
+                  const ExportOptions& options, const ExportFeedback& feedback);
 
 } // namespace heft

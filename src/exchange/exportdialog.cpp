@@ -27,7 +27,8 @@ namespace {
 constexpr qint64 EventRoundMs = 30;
 
 QString AskWithFileDialog(QWidget* parent, const QString& title, const QString& folder, const QString& filter,
-                          const QString& suffix) {
+                          const QString& suffix)
+{
     QFileDialog dialog(parent, title, folder, filter);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(suffix);
@@ -35,7 +36,8 @@ QString AskWithFileDialog(QWidget* parent, const QString& title, const QString& 
 }
 
 // The rows of the active grid, top to bottom, as plain cell texts.
-ExportList ActiveList(MainWindow& window) {
+ExportList ActiveList(MainWindow& window)
+{
     ExportList list;
     const EntryGrid& grid = *window.List().ActiveGrid;
     const EntryGridModel& model = grid.Model();
@@ -53,7 +55,8 @@ ExportList ActiveList(MainWindow& window) {
 
 ExportDialog::ExportDialog(MainWindow& window, ExportFileChooser chooser)
     : QDialog(&window), m_ui(std::make_unique<Ui::ExportDialog>()), m_window(window),
-      m_chooser(chooser ? std::move(chooser) : ExportFileChooser(AskWithFileDialog)) {
+      m_chooser(chooser ? std::move(chooser) : ExportFileChooser(AskWithFileDialog))
+{
     m_ui->setupUi(this);
     setWindowFlags(windowFlags() & ~Qt::WindowContextHelpButtonHint);
     layout()->setSizeConstraint(QLayout::SetFixedSize);
@@ -64,15 +67,18 @@ ExportDialog::ExportDialog(MainWindow& window, ExportFileChooser chooser)
 
 ExportDialog::~ExportDialog() = default;
 
-QString ExportDialog::ExportFolder() const {
+QString ExportDialog::ExportFolder() const
+{
     return QDir(m_window.CurrentSession().DataFolder).filePath(u"export"_s);
 }
 
-void ExportDialog::OpenFolderClick() {
+void ExportDialog::OpenFolderClick()
+{
     QDesktopServices::openUrl(QUrl::fromLocalFile(ExportFolder()));
 }
 
-void ExportDialog::ChooseClick() {
+void ExportDialog::ChooseClick()
+{
     QString suffix;
     if (m_ui->chk_csv->isChecked())
         suffix = u"dat"_s;
@@ -81,9 +87,9 @@ void ExportDialog::ChooseClick() {
     else if (m_ui->chk_html->isChecked())
         suffix = u"html"_s;
     if (suffix.isEmpty()) {
-        m_window.CurrentSession().prompter->Tell(
-            u"Fehlendes Export-Format"_s, u"Bitte Export-Format auswählen.\r\n\r\n(CSV | TEXT | HTML)"_s,
-            MessageIcon::Critical);
+        m_window.CurrentSession().prompter->Tell(u"Fehlendes Export-Format"_s,
+                                                 u"Bitte Export-Format auswählen.\r\n\r\n(CSV | TEXT | HTML)"_s,
+                                                 MessageIcon::Critical);
         m_ui->chk_csv->setFocus();
         return;
     }
@@ -99,13 +105,14 @@ void ExportDialog::ChooseClick() {
     RunExport(path, static_cast<int>(suffix.size()) + 1);
 }
 
-void ExportDialog::RunExport(const QString& path, int extensionLength) {
+void ExportDialog::RunExport(const QString& path, int extensionLength)
+{
     m_busy = true;
     setEnabled(false);
     m_ui->txt_result->clear();
     const QFileInfo file(path);
-    const ExportTarget target{file.absolutePath(), file.fileName().chopped(qMin<qsizetype>(
-                                                       extensionLength, file.fileName().size()))};
+    const ExportTarget target{file.absolutePath(),
+                              file.fileName().chopped(qMin<qsizetype>(extensionLength, file.fileName().size()))};
     ExportOptions options;
     options.csv = m_ui->chk_csv->isChecked();
     options.text = m_ui->chk_text->isChecked();
@@ -129,8 +136,7 @@ void ExportDialog::RunExport(const QString& path, int extensionLength) {
                                       sinceEvents.restart();
                                   },
                                   [this] { m_window.FinishProgress(250); }};
-    const QString result =
-        RunExportChain(m_window.CurrentSession(), ActiveList(m_window), target, options, feedback);
+    const QString result = RunExportChain(m_window.CurrentSession(), ActiveList(m_window), target, options, feedback);
 
     // The box shows the lines; the text itself keeps CR LF.
     m_ui->txt_result->setPlainText(QString(result).replace(u"\r\n"_s, u"\n"_s));
@@ -141,19 +147,22 @@ void ExportDialog::RunExport(const QString& path, int extensionLength) {
     m_ui->btn_ok->setFocus();
 }
 
-void ExportDialog::reject() {
+void ExportDialog::reject()
+{
     if (!m_busy)
         QDialog::reject();
 }
 
-void ExportDialog::keyPressEvent(QKeyEvent* event) {
+void ExportDialog::keyPressEvent(QKeyEvent* event)
+{
     if (event->key() == Qt::Key_Escape)
         reject();
     else
         QDialog::keyPressEvent(event);
 }
 
-void InstallExportWindow(MainWindow& window, ExportFileChooser chooser) {
+void InstallExportWindow(MainWindow& window, ExportFileChooser chooser)
+{
     window.SetCommandHandler(u"mnu_export"_s, [&window, chooser] {
         ExportDialog dialog(window, chooser);
         dialog.exec();

@@ -24,7 +24,7 @@ using ExportFileChooser = std::function<QString(QWidget* parent, const QString& 
 class ExportDialog : public QDialog {
     Q_OBJECT
 
-  public:
+public:
     // Without a chooser the platform's save dialog asks.
     explicit ExportDialog(MainWindow& window, ExportFileChooser chooser = {});
     ~ExportDialog() override;
@@ -32,10 +32,10 @@ class ExportDialog : public QDialog {
     // Nothing closes the window while an export runs.
     void reject() override;
 
-  protected:
+protected:
     void keyPressEvent(QKeyEvent* event) override;
 
-  private:
+private:
     // btn_choose: the first checked format decides the dialog.
     void ChooseClick();
     void RunExport(const QString& path, int extensionLength);

@@ -10,39 +10,47 @@ using namespace Qt::StringLiterals;
 
 namespace heft {
 
-QString ExportTarget::Path(const QString& suffix) const {
+QString ExportTarget::Path(const QString& suffix) const
+{
     return QDir(folder).filePath(baseName + suffix);
 }
 
-QString ExportTarget::DetailsFolderName() const {
+QString ExportTarget::DetailsFolderName() const
+{
     return baseName + u"_Details"_s;
 }
 
-QString ExportTarget::DetailsFolder() const {
+QString ExportTarget::DetailsFolder() const
+{
     return QDir(folder).filePath(DetailsFolderName());
 }
 
-void ExportFeedback::Status(const QString& text) const {
+void ExportFeedback::Status(const QString& text) const
+{
     if (status)
         status(text);
 }
 
-void ExportFeedback::Start(int maximum) const {
+void ExportFeedback::Start(int maximum) const
+{
     if (startProgress)
         startProgress(maximum);
 }
 
-void ExportFeedback::Progress(int value) const {
+void ExportFeedback::Progress(int value) const
+{
     if (progress)
         progress(value);
 }
 
-void ExportFeedback::Finish() const {
+void ExportFeedback::Finish() const
+{
     if (finishProgress)
         finishProgress();
 }
 
-bool WriteExportFile(const QString& path, const QString& text) {
+bool WriteExportFile(const QString& path, const QString& text)
+{
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))
         return false;
@@ -50,7 +58,8 @@ bool WriteExportFile(const QString& path, const QString& text) {
     return file.write(bytes) == bytes.size() && file.flush();
 }
 
-qint64 ExportFileSize(const QString& path) {
+qint64 ExportFileSize(const QString& path)
+{
     const QFileInfo info(path);
     return info.isFile() ? info.size() : -1;
 }

@@ -55,15 +55,16 @@ struct ExportFeedback {
 
 // Builds an output file as text, one line at a time, each ended by CR LF.
 class ExportLines {
-  public:
-    void Add(const QString& line) {
+public:
+    void Add(const QString& line)
+    {
         m_text += line;
         m_text += QStringView(u"\r\n");
     }
     const QString& Text() const { return m_text; }
     void Clear() { m_text.clear(); }
 
-  private:
+private:
     QString m_text;
 };
 

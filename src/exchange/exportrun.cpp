@@ -20,12 +20,14 @@ namespace {
 const QString CrLf = u"\r\n"_s;
 
 // The size line of one file; a file that could not be made has none.
-void AddSize(QString& result, const QString& path, const QString& what) {
+void AddSize(QString& result, const QString& path, const QString& what)
+{
     if (const qint64 size = ExportFileSize(path); size >= 0)
         result += CrLf + u' ' + QString::number(size) + u" Bytes ("_s + what + u')';
 }
 
-QString DatResultText(const ExportTarget& target, const ExportOptions& options, int rows, int details) {
+QString DatResultText(const ExportTarget& target, const ExportOptions& options, int rows, int details)
+{
     QString text = rows == 1 ? u"Es wurde 1/%1 Eintrag exportiert."_s.arg(details)
                              : u"Es wurden %1/%2 Einträge exportiert."_s.arg(rows).arg(details);
     text += CrLf;
@@ -50,7 +52,8 @@ QString DatResultText(const ExportTarget& target, const ExportOptions& options, 
 }
 
 // Reads the data lines of a .dat file, the header dropped.
-template <typename Handle> void ForEachDatLine(const QString& path, Handle handle) {
+template <typename Handle> void ForEachDatLine(const QString& path, Handle handle)
+{
     DatInputFile file;
     if (!file.Open(path))
         return;
@@ -62,8 +65,8 @@ template <typename Handle> void ForEachDatLine(const QString& path, Handle handl
 } // namespace
 
 void WriteTextAndHtml(Session& session, const ExportList& list, const ExportTarget& target,
-                      const ExportOptions& options, const ExportFeedback& feedback, int details,
-                      QString& result) {
+                      const ExportOptions& options, const ExportFeedback& feedback, int details, QString& result)
+{
     const Configuration& config = session.Config;
     const DatLimits limits{config.MaxAuflage, config.ContentLimit};
     feedback.Status(u"Erzeuge Exportdateien ..."_s);
@@ -133,13 +136,15 @@ void WriteTextAndHtml(Session& session, const ExportList& list, const ExportTarg
     }
 }
 
-void DeleteTempDat(const ExportTarget& target) {
+void DeleteTempDat(const ExportTarget& target)
+{
     QFile::remove(target.Path(u".dat"_s));
     QFile::remove(target.Path(u"_Details.dat"_s));
 }
 
 QString RunExportChain(Session& session, const ExportList& list, const ExportTarget& target,
-                       const ExportOptions& options, const ExportFeedback& feedback) {
+                       const ExportOptions& options, const ExportFeedback& feedback)
+{
     const int details = WriteDatFiles(*session.CollectionDb, session.Config, list, target, options, feedback);
     QString result = DatResultText(target, options, static_cast<int>(list.rows.size()), details);
     if (options.text || options.html)

@@ -15,8 +15,7 @@ QString RunExportChain(Session& session, const ExportList& list, const ExportTar
 // Writes .txt, _Details.txt, .html and the detail pages from the .dat pair;
 // the sizes of the files it made are added to the result text.
 void WriteTextAndHtml(Session& session, const ExportList& list, const ExportTarget& target,
-                      const ExportOptions& options, const ExportFeedback& feedback, int details,
-                      QString& result);
+                      const ExportOptions& options, const ExportFeedback& feedback, int details, QString& result);
 // Removes the .dat pair; a file that isn't there is no error.
 void DeleteTempDat(const ExportTarget& target);
 

@@ -19,19 +19,22 @@ const QString ZyklusMask = QString(9, u'@');
 const QString GlMask = u"@@@@"_s;
 const QString StatusLabelMask = u'!' + QString(17, u'@');
 
-bool IsJa(const QString& text) {
+bool IsJa(const QString& text)
+{
     return text.compare(u"ja"_s, Qt::CaseInsensitive) == 0;
 }
 
 // The stored date that stands for "no date", in both forms it comes in.
-bool IsNoDate(const QString& value) {
+bool IsNoDate(const QString& value)
+{
     static const qint64 noDate = QDate(1899, 12, 30).daysTo(QDate(1900, 12, 31));
     return value == u"31.12.00" || JetDateValue(value) == noDate;
 }
 
 } // namespace
 
-const QStringList& ExportStatusLabels() {
+const QStringList& ExportStatusLabels()
+{
     static const QStringList labels = {
         u"Letzte Änderung"_s, u"Exemplare"_s,       u"Zustand"_s,      u"Verkäufer"_s, u"Kaufpreis [EUR]"_s,
         u"Wert [EUR]"_s,      u"Lagerort"_s,        u"ISBN"_s,         u"Verlag"_s,    u"Anzahl Seiten"_s,
@@ -41,7 +44,8 @@ const QStringList& ExportStatusLabels() {
     return labels;
 }
 
-ListRecord ShownListRecord(ListRecord record, const ExportOptions& options) {
+ListRecord ShownListRecord(ListRecord record, const ExportOptions& options)
+{
     if (record.Auflage.isEmpty() || record.Auflage == u"-")
         record.Auflage = options.zyklus ? u"-"_s : u" "_s;
     if (record.Zyklus == u"- - -" && !options.zyklus)
@@ -51,7 +55,8 @@ ListRecord ShownListRecord(ListRecord record, const ExportOptions& options) {
     return record;
 }
 
-DetailsRecord ShownDetailsRecord(DetailsRecord record) {
+DetailsRecord ShownDetailsRecord(DetailsRecord record)
+{
     if (IsNoDate(record.Ersterscheinung))
         record.Ersterscheinung.clear();
     if (Val(record.RZ) != 0)
@@ -61,7 +66,8 @@ DetailsRecord ShownDetailsRecord(DetailsRecord record) {
     return record;
 }
 
-QString TextHeadLine(bool gelesen) {
+QString TextHeadLine(bool gelesen)
+{
     return gelesen ? u"NR   AUTOR                     TITEL                                              "
                      u"AUFL ZYKLUS GL   "
                      "BEMERKUNG"_s
@@ -70,11 +76,13 @@ QString TextHeadLine(bool gelesen) {
                      "BEMERKUNG"_s;
 }
 
-QString TextRule(bool gelesen) {
+QString TextRule(bool gelesen)
+{
     return QString(gelesen ? 163 : 158, u'-');
 }
 
-QString TextRow(const ListRecord& record, bool gelesen) {
+QString TextRow(const ListRecord& record, bool gelesen)
+{
     QString line = FormatMask(record.Nr, NrMask) + u' ' + FormatMask(record.Autor, AutorMask) +
                    FormatMask(record.Titel, TitelMask) + FormatMask(record.Auflage, AuflageMask) + u' ' +
                    FormatMask(record.Zyklus, ZyklusMask) + u' ';
@@ -83,7 +91,8 @@ QString TextRow(const ListRecord& record, bool gelesen) {
     return line + record.Bemerkung;
 }
 
-QString ExportSummary(const QString& series, const QString& kind, const ExportList& list) {
+QString ExportSummary(const QString& series, const QString& kind, const ExportList& list)
+{
     const qsizetype count = static_cast<qsizetype>(list.rows.size());
     const QString entries = count > 1 ? u" Einträge)"_s : u" Eintrag)"_s;
     const QString head = series + u' ' + kind;
@@ -94,7 +103,8 @@ QString ExportSummary(const QString& series, const QString& kind, const ExportLi
     return head + u" Nummer "_s + first + u'-' + last + u" ("_s + QString::number(count) + entries;
 }
 
-void AddTextDetails(ExportLines& lines, const DetailsRecord& record, const QString& series) {
+void AddTextDetails(ExportLines& lines, const DetailsRecord& record, const QString& series)
+{
     QString persons = record.Persons[0];
     for (size_t i = 1; i < record.Persons.size(); ++i)
         if (!record.Persons[i].isEmpty())
@@ -115,8 +125,8 @@ void AddTextDetails(ExportLines& lines, const DetailsRecord& record, const QStri
     // The links are listed up to the first slot without a number.
     for (int i = 0; i < MaxLinks && record.Links[static_cast<size_t>(i)].Num > 0; ++i) {
         const DatLink& link = record.Links[static_cast<size_t>(i)];
-        lines.Add(u"Verknüpfung "_s + QString::number(i + 1).rightJustified(2, u'0') + u":  "_s + series +
-                  u" #"_s + QString::number(link.Num) + u" - "_s + link.Text);
+        lines.Add(u"Verknüpfung "_s + QString::number(i + 1).rightJustified(2, u'0') + u":  "_s + series + u" #"_s +
+                  QString::number(link.Num) + u" - "_s + link.Text);
     }
     lines.Add(u""_s);
 }

@@ -11,24 +11,28 @@ namespace {
 const QString CellStart = u"<TD><FONT face=Verdana size=2>"_s;
 const QString CellEnd = u"</FONT></TD>"_s;
 
-QString Shown(const QString& value) {
+QString Shown(const QString& value)
+{
     return value.isEmpty() ? u"<p>&nbsp;"_s : value;
 }
 
-void AddLabelRow(ExportLines& lines, const QString& label, const QString& value) {
+void AddLabelRow(ExportLines& lines, const QString& label, const QString& value)
+{
     lines.Add(u"<TR>"_s);
     lines.Add(u"<TD bgColor=#ccccff><FONT face=Verdana size=4>"_s + label + u"</FONT></TD>"_s);
     lines.Add(u"<TD><FONT face=Verdana>"_s + Shown(value) + u"</FONT></TD></TR>"_s);
 }
 
-void AddBlackRule(ExportLines& lines) {
+void AddBlackRule(ExportLines& lines)
+{
     lines.Add(u"<TR>"_s);
     lines.Add(u"<TD bgColor=#000000 height=2></TD>"_s);
     lines.Add(u"<TD bgColor=#000000 height=2></TD></TR>"_s);
 }
 
 // A column of its own inside the page: a rule, a heading and rows.
-void AddBlock(ExportLines& lines, const QString& heading, const QStringList& rows) {
+void AddBlock(ExportLines& lines, const QString& heading, const QStringList& rows)
+{
     lines.Add(u"<TABLE height=\"100%\"cellSpacing=0 cellPadding=0 width=\"100%\"border=0>"_s);
     lines.Add(u"<TR>"_s);
     lines.Add(u"<TD bgColor=#000000 height=2></TD></TR>"_s);
@@ -40,7 +44,8 @@ void AddBlock(ExportLines& lines, const QString& heading, const QStringList& row
     }
 }
 
-void AddHead(ExportLines& lines, const QString& title) {
+void AddHead(ExportLines& lines, const QString& title)
+{
     lines.Add(u"<HTML>"_s);
     lines.Add(u"<HEAD>"_s);
     lines.Add(u"<META NAME=\"GENERATOR\" CONTENT=\"Heftarium\">"_s);
@@ -51,7 +56,8 @@ void AddHead(ExportLines& lines, const QString& title) {
 
 } // namespace
 
-void AddHtmlListHead(ExportLines& lines, const ExportOptions& options) {
+void AddHtmlListHead(ExportLines& lines, const ExportOptions& options)
+{
     AddHead(lines, u"Heftarium HTML Export"_s);
     lines.Add(u"<TABLE cellSpacing=0 cellPadding=0 width=\"100%\" bgColor=#ccccff border=0>"_s);
     lines.Add(u"<TR>"_s);
@@ -68,7 +74,8 @@ void AddHtmlListHead(ExportLines& lines, const ExportOptions& options) {
 }
 
 void AddHtmlListRow(ExportLines& lines, const ListRecord& record, const ExportOptions& options,
-                    const QString& detailsFolderName) {
+                    const QString& detailsFolderName)
+{
     lines.Add(u"<TR>"_s);
     for (const QString* value : {&record.Nr, &record.Autor, &record.Titel, &record.Auflage, &record.Zyklus})
         lines.Add(CellStart + *value + CellEnd);
@@ -76,12 +83,13 @@ void AddHtmlListRow(ExportLines& lines, const ListRecord& record, const ExportOp
         lines.Add(CellStart + record.GL + CellEnd);
     lines.Add(CellStart + record.Bemerkung + CellEnd);
     if (options.details)
-        lines.Add(CellStart + u"<a href=\""_s + detailsFolderName + u'\\' + record.Nr +
-                  u".html\">Anzeigen</a>"_s + CellEnd);
+        lines.Add(CellStart + u"<a href=\""_s + detailsFolderName + u'\\' + record.Nr + u".html\">Anzeigen</a>"_s +
+                  CellEnd);
     lines.Add(u"</TR>"_s);
 }
 
-void AddHtmlListFooter(ExportLines& lines, const QString& summary) {
+void AddHtmlListFooter(ExportLines& lines, const QString& summary)
+{
     lines.Add(u"</TABLE><P><font size=2>"_s);
     lines.Add(summary);
     lines.Add(u"</font></P>"_s);
@@ -89,8 +97,8 @@ void AddHtmlListFooter(ExportLines& lines, const QString& summary) {
     lines.Add(u"</HTML>"_s);
 }
 
-void AddHtmlDetailsPage(ExportLines& lines, const DetailsRecord& record, const QString& series,
-                        const QString& kind) {
+void AddHtmlDetailsPage(ExportLines& lines, const DetailsRecord& record, const QString& series, const QString& kind)
+{
     AddHead(lines, u"Heftarium HTML Export Details"_s);
     lines.Add(u"<TABLE cellSpacing=0 cellPadding=0 width=\"100%\" bgColor=#ffcc99 border=0>"_s);
     lines.Add(u"<TR>"_s);
@@ -98,8 +106,8 @@ void AddHtmlDetailsPage(ExportLines& lines, const DetailsRecord& record, const Q
     lines.Add(u"<TD bgColor=#000000 height=2></TD></TR>"_s);
     lines.Add(u"<TR>"_s);
     lines.Add(u"<TD width=\"25%\"bgColor=#ffffff></TD>"_s);
-    lines.Add(u"<TD bgColor=#330099><STRONG><FONT face=Verdana color=#ffff00 size=5>Detail "_s + series +
-              u' ' + kind + u": #"_s + record.Nr + u"</FONT></STRONG></TD></TR>"_s);
+    lines.Add(u"<TD bgColor=#330099><STRONG><FONT face=Verdana color=#ffff00 size=5>Detail "_s + series + u' ' + kind +
+              u": #"_s + record.Nr + u"</FONT></STRONG></TD></TR>"_s);
     AddBlackRule(lines);
 
     AddLabelRow(lines, u"Ersterscheinung:"_s, record.Ersterscheinung);

@@ -15,7 +15,6 @@ void AddHtmlListHead(ExportLines& lines, const ExportOptions& options);
 void AddHtmlListRow(ExportLines& lines, const ListRecord& record, const ExportOptions& options,
                     const QString& detailsFolderName);
 void AddHtmlListFooter(ExportLines& lines, const QString& summary);
-void AddHtmlDetailsPage(ExportLines& lines, const DetailsRecord& record, const QString& series,
-                        const QString& kind);
+void AddHtmlDetailsPage(ExportLines& lines, const DetailsRecord& record, const QString& series, const QString& kind);
 
 } // namespace heft

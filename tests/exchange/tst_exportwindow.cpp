@@ -34,7 +34,8 @@ struct Asked {
 };
 
 struct ExportWindow {
-    ExportWindow() {
+    ExportWindow()
+    {
         AddExportEntries(collection);
         QDir(collection.session.DataFolder).mkpath(u"export"_s);
         window.LoadList(collection.session);
@@ -42,14 +43,16 @@ struct ExportWindow {
     }
     // Answers the save dialog with {export}/Liste plus the suffix it was
     // asked for, or with nothing.
-    ExportFileChooser Chooser(bool cancel = false) {
+    ExportFileChooser Chooser(bool cancel = false)
+    {
         return [this, cancel](QWidget*, const QString& title, const QString& folder, const QString& filter,
                               const QString& suffix) {
             asked = {title, folder, filter, suffix, asked.count + 1};
             return cancel ? QString() : QDir(folder).filePath(u"Liste."_s + suffix);
         };
     }
-    QString Path(const QString& suffix) const {
+    QString Path(const QString& suffix) const
+    {
         return QDir(collection.session.DataFolder).filePath(u"export/Liste"_s + suffix);
     }
 
@@ -58,14 +61,16 @@ struct ExportWindow {
     Asked asked;
 };
 
-template <typename T> T* Child(QWidget& parent, const QString& name) {
+template <typename T> T* Child(QWidget& parent, const QString& name)
+{
     auto* child = parent.findChild<T*>(name);
     if (!child)
         qFatal("no %s", qPrintable(name));
     return child;
 }
 
-void Check(QWidget& dialog, const QString& flags) {
+void Check(QWidget& dialog, const QString& flags)
+{
     const QList<std::pair<QChar, QString>> boxes = {{u'c', u"chk_csv"_s},     {u't', u"chk_text"_s},
                                                     {u'h', u"chk_html"_s},    {u'd', u"chk_details"_s},
                                                     {u'g', u"chk_gelesen"_s}, {u'z', u"chk_zyklus"_s}};
@@ -73,7 +78,8 @@ void Check(QWidget& dialog, const QString& flags) {
         Child<QCheckBox>(dialog, name)->setChecked(flags.contains(flag));
 }
 
-QString Result(QWidget& dialog) {
+QString Result(QWidget& dialog)
+{
     return Child<QPlainTextEdit>(dialog, u"txt_result"_s)->toPlainText();
 }
 
@@ -81,10 +87,10 @@ QString Result(QWidget& dialog) {
 class UrlCatcher : public QObject {
     Q_OBJECT
 
-  public Q_SLOTS:
+public Q_SLOTS:
     void Open(const QUrl& url) { urls << url; }
 
-  public:
+public:
     QList<QUrl> urls;
 };
 
@@ -93,9 +99,10 @@ class UrlCatcher : public QObject {
 class TestExportWindow : public QObject {
     Q_OBJECT
 
-  private Q_SLOTS:
+private Q_SLOTS:
     // The captions the user reads, by the names the code knows them by.
-    void controls() {
+    void controls()
+    {
         ExportWindow w;
         ExportDialog dialog(w.window, w.Chooser());
         QCOMPARE(dialog.objectName(), u"frm_export"_s);
@@ -105,13 +112,12 @@ class TestExportWindow : public QObject {
                                                             {u"btn_ok"_s, u"&Schließen"_s}};
         for (const auto& [name, text] : buttons)
             QCOMPARE(Child<QPushButton>(dialog, name)->text(), text);
-        const QList<std::pair<QString, QString>> boxes = {
-            {u"chk_zyklus"_s, u"leere(r) Zyklus/Auflage als '-'"_s},
-            {u"chk_gelesen"_s, u"mit Spalte GE (gelesen)"_s},
-            {u"chk_details"_s, u"mit Detailinfo"_s},
-            {u"chk_text"_s, u"TEXT (ASCII Liste)"_s},
-            {u"chk_html"_s, u"HTML (I-Web Liste)"_s},
-            {u"chk_csv"_s, u"CSV (Ex/Import Liste)"_s}};
+        const QList<std::pair<QString, QString>> boxes = {{u"chk_zyklus"_s, u"leere(r) Zyklus/Auflage als '-'"_s},
+                                                          {u"chk_gelesen"_s, u"mit Spalte GE (gelesen)"_s},
+                                                          {u"chk_details"_s, u"mit Detailinfo"_s},
+                                                          {u"chk_text"_s, u"TEXT (ASCII Liste)"_s},
+                                                          {u"chk_html"_s, u"HTML (I-Web Liste)"_s},
+                                                          {u"chk_csv"_s, u"CSV (Ex/Import Liste)"_s}};
         for (const auto& [name, text] : boxes)
             QCOMPARE(Child<QCheckBox>(dialog, name)->text(), text);
         QCOMPARE(Child<QGroupBox>(dialog, u"frm_detail"_s)->title(), u"Datenumfang"_s);
@@ -120,19 +126,20 @@ class TestExportWindow : public QObject {
         QVERIFY(Child<QPlainTextEdit>(dialog, u"txt_result"_s)->isReadOnly());
     }
 
-    void formats_data() {
+    void formats_data()
+    {
         QTest::addColumn<QString>("flags");
         QTest::addColumn<QString>("suffix"); // of the save dialog, empty when none opens
         QTest::addColumn<QStringList>("files");
-        QTest::newRow("csv before text")
-            << u"tcd"_s << u"dat"_s
-            << QStringList{u".dat"_s, u"_Details.dat"_s, u".txt"_s, u"_Details.txt"_s};
+        QTest::newRow("csv before text") << u"tcd"_s << u"dat"_s
+                                         << QStringList{u".dat"_s, u"_Details.dat"_s, u".txt"_s, u"_Details.txt"_s};
         QTest::newRow("text before html") << u"ht"_s << u"txt"_s << QStringList{u".txt"_s, u".html"_s};
         QTest::newRow("html alone") << u"hd"_s << u"html"_s << QStringList{u".html"_s, u"_Details/1.html"_s};
         QTest::newRow("no format") << u"dgz"_s << QString() << QStringList();
     }
 
-    void formats() {
+    void formats()
+    {
         QFETCH(QString, flags);
         QFETCH(QString, suffix);
         QFETCH(QStringList, files);
@@ -167,7 +174,8 @@ class TestExportWindow : public QObject {
         QVERIFY(dialog.isEnabled());
     }
 
-    void cancel() {
+    void cancel()
+    {
         ExportWindow w;
         ExportDialog dialog(w.window, w.Chooser(true));
         Check(dialog, u"c"_s);
@@ -178,11 +186,12 @@ class TestExportWindow : public QObject {
 
     // Opened by the menu command, modal, on the filter list when a filter
     // is in force; Esc closes it when nothing runs.
-    void filterListFromMenu() {
+    void filterListFromMenu()
+    {
         ExportWindow w;
         EntryList& list = w.window.List();
-        QVERIFY(RunFilterStatement(w.collection.session, list,
-                                   u"SELECT * FROM HEFTLIST WHERE Nr>1 ORDER BY Nr;"_s) == 2);
+        QVERIFY(RunFilterStatement(w.collection.session, list, u"SELECT * FROM HEFTLIST WHERE Nr>1 ORDER BY Nr;"_s) ==
+                2);
         list.ShowFilterGrid(true);
         FilterStateOf(w.window)->FilterText = u"Nr größer als 1 "_s;
         InstallExportWindow(w.window, w.Chooser());
@@ -208,15 +217,16 @@ class TestExportWindow : public QObject {
         QCOMPARE(text.last(), u"Valdorin Heftromane gefiltert nach: Nr größer als 1  (2 Einträge)"_s);
     }
 
-    void openFolder() {
+    void openFolder()
+    {
         ExportWindow w;
         ExportDialog dialog(w.window, w.Chooser());
         UrlCatcher catcher;
         QDesktopServices::setUrlHandler(u"file"_s, &catcher, "Open");
         Child<QPushButton>(dialog, u"btn_expdir"_s)->click();
         QDesktopServices::unsetUrlHandler(u"file"_s);
-        QCOMPARE(catcher.urls, QList<QUrl>{QUrl::fromLocalFile(
-                                   QDir(w.collection.session.DataFolder).filePath(u"export"_s))});
+        QCOMPARE(catcher.urls,
+                 QList<QUrl>{QUrl::fromLocalFile(QDir(w.collection.session.DataFolder).filePath(u"export"_s))});
     }
 };
 
