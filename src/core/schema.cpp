@@ -84,6 +84,10 @@ std::unique_ptr<Database> CreateCollectionFile(const QString& path, const QStrin
     // Attribute rows are read and replaced by number and attribute together
     // (the stamp of every save); this index keeps that fast.
     statements << u"CREATE INDEX INS3 ON Status (Nr, ENum);"_s;
+    // The same for links: the import looks each one up by both, and with
+    // only the single-column indexes SQLite picks the one on ENum, which
+    // walks every entry's link of that place.
+    statements << u"CREATE INDEX INL3 ON Links (Nr, ENum);"_s;
     statements << u"INSERT INTO KONFIGURATION VALUES ('%1', '%2', 'Logo.svg', 'Splash.svg');"_s.arg(
         QuoteSql(seriesName), QuoteSql(listKind));
     statements << u"INSERT INTO Parameter VALUES (1, 'Höchste Auflage', '5');"_s

@@ -45,7 +45,12 @@ struct ListRecord {
     bool Gelesen = false;    // written to the database as 255 or 0
     QString Bemerkung;
     unsigned Bits = 0;
+    // The fields whose text was empty on this line, before "-" and "Nein"
+    // stood in for them: an update of only the imported columns leaves
+    // those columns alone.
+    unsigned EmptyBits = 0;
     bool IsGood() const { return (Bits & GoodListBits) == GoodListBits; }
+    bool IsEmpty(int field) const { return (EmptyBits & FieldBit(field)) != 0; }
 };
 
 struct CycleRecord {

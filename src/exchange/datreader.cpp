@@ -60,6 +60,10 @@ const ListRecord& ListReader::Read(const QString& line)
     Mark(r.Bits, 6, cutter.Cut(r.GL, NoLimit));
     Mark(r.Bits, 7, cutter.CutLast(r.Bemerkung, 64));
 
+    r.EmptyBits = 0;
+    int field = 1;
+    for (const QString* value : {&r.Nr, &r.Autor, &r.Titel, &r.Auflage, &r.Zyklus, &r.GL, &r.Bemerkung})
+        Mark(r.EmptyBits, field++, value->isEmpty());
     if (r.Auflage.isEmpty())
         r.Auflage = u"-"_s;
     const double auflage = Val(r.Auflage);

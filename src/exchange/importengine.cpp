@@ -1,0 +1,171 @@
+#include "importengine.h"
+
+#include "datfile.h"
+#include "datreader.h"
+
+#include "core/session.h"
+#include "core/textfuncs.h"
+#include "mainwin/entrylist.h"
+
+#include <QDir>
+
+using namespace Qt::StringLiterals;
+
+namespace heft {
+
+namespace {
+
+QString ReportLine(int line, const ListRecord& r) { return ListReportLine(line, r); }
+QString ReportLine(int line, const CycleRecord& r) { return CycleReportLine(line, r); }
+QString ReportLine(int line, const DetailsRecord& r) { return DetailsReportLine(line, r); }
+
+// One record's statements go to the file together: a commit per statement
+// would have the import mostly wait for the file. A program killed during
+// an import loses at most the record it was writing, and that one whole;
+// everything before it is in the file. A savepoint, so that a caller's own
+// transaction (the benchmark's) stays one.
+class RecordChange {
+public:
+    explicit RecordChange(Database* db) : m_db(db)
+    {
+        if (m_db)
+            m_db->Execute(u"SAVEPOINT ImportRecord"_s);
+    }
+    ~RecordChange()
+    {
+        if (m_db)
+            m_db->Execute(u"RELEASE ImportRecord"_s);
+    }
+    RecordChange(const RecordChange&) = delete;
+    RecordChange& operator=(const RecordChange&) = delete;
+
+private:
+    Database* m_db;
+};
+
+struct Outcome {
+    int ok = 0;
+    int errors = 0;
+};
+
+// The loop over the records of one file: every line is reported, a bad one
+// as "DatFormat ", one the database refused as "DB-InsUpd ". After each
+// line the observer may stop the import; what was written stays.
+template <typename Reader, typename Write>
+Outcome ReadRecords(DatInputFile& file, Reader& reader, Database* db, ImportObserver& observer, ImportTexts& texts,
+                    Write write)
+{
+    Outcome outcome;
+    int line = 0;
+    while (!file.AtEnd()) {
+        const auto& record = reader.Read(file.ReadLine());
+        const QString report = ReportLine(++line, record);
+        if (!record.IsGood()) {
+            ++outcome.errors;
+            texts.fehler += u"DatFormat "_s + report;
+        } else if (const RecordChange change(db); write(record) == 0) {
+            ++outcome.ok;
+            texts.bericht += report;
+        } else {
+            ++outcome.errors;
+            texts.fehler += u"DB-InsUpd "_s + report;
+        }
+        if (!observer.LineDone(file.Position()))
+            break;
+    }
+    return outcome;
+}
+
+} // namespace
+
+QString ImportCaption() { return u"Daten Import"_s; }
+
+FileImport::FileImport(Session& session, EntryList& list, ImportObserver& observer)
+    : m_session(session), m_list(list), m_observer(observer)
+{
+}
+
+void FileImport::ImportDatFile(const QString& path, ImportMode mode)
+{
+    m_texts.bericht.clear();
+    m_texts.fehler.clear();
+    m_refused = 0;
+    const Configuration& config = m_session.Config;
+    const DatLimits limits{config.MaxAuflage, config.ContentLimit};
+
+    // A file that can't be read has an empty first line like an empty file,
+    // and ends in the sentence about a bad file.
+    DatInputFile file;
+    file.Open(path);
+    m_observer.Started(file.Size() + 1);
+    const DatKind kind = KindOfHeader(file.ReadLine(), config.SeriesName, config.ListKind);
+    Outcome outcome;
+    switch (kind) {
+    case DatKind::None:
+        m_texts.bericht = u"Keine Import Datei ausgewählt."_s;
+        m_texts.fehler = QDir::toNativeSeparators(path) + u" ist keine gültige Importdatei."_s;
+        m_refused = 1;
+        break;
+    case DatKind::List: {
+        m_observer.ListImport(true);
+        m_texts.caption = u"Bericht über %1 %2 Import"_s.arg(config.SeriesName, config.ListKind);
+        ListReader reader(limits);
+        int lastNr = 0;
+        outcome = ReadRecords(file, reader, m_session.CollectionDb.get(), m_observer, m_texts, [&](const ListRecord& r) {
+            lastNr = static_cast<int>(Val(r.Nr));
+            return WriteListRecord(m_session, m_list, r, mode);
+        });
+        m_list.ResortGrid();
+        m_list.FindAndShowRow(lastNr);
+        m_observer.ListImport(false);
+        break;
+    }
+    case DatKind::Cycle: {
+        if (!m_session.CycleDb) {
+            m_texts.bericht = u"Es wurden keine Zyklus Daten importiert."_s;
+            m_texts.fehler = u"Die Zyklen Datenbank konnte nicht geöffnet werden."_s;
+            m_refused = 1;
+            break;
+        }
+        m_observer.CycleFileFound();
+        m_texts.caption = u"Bericht über %1 Zyklen Import"_s.arg(config.SeriesName);
+        CycleReader reader;
+        outcome = ReadRecords(file, reader, m_session.CycleDb.get(), m_observer, m_texts,
+                              [&](const CycleRecord& r) { return WriteCycleRecord(m_session, r, mode); });
+        break;
+    }
+    case DatKind::Details: {
+        m_texts.caption = u"Bericht über %1 Detaildaten Import"_s.arg(config.SeriesName);
+        DetailsReader reader(limits);
+        int sum = 0;
+        outcome = ReadRecords(file, reader, m_session.CollectionDb.get(), m_observer, m_texts, [&](const DetailsRecord& r) {
+            return WriteDetailsRecord(m_session, r, mode, sum);
+        });
+        break;
+    }
+    }
+    if (kind != DatKind::None && m_refused == 0) {
+        ShowImportSummary(m_texts, outcome.ok, outcome.errors, ImportHeaderLine(kind) + u"\r\n"_s);
+        m_refused = outcome.errors;
+    }
+    m_list.UpdateSelectionPanel();
+    m_observer.Finished();
+}
+
+void FileImport::ImportChosenFile(const QString& path, ImportMode mode, bool withDetails)
+{
+    ImportDatFile(path, mode);
+    // The report frame's caption names the list kind after a list file.
+    if (!withDetails || !m_texts.caption.contains(m_session.Config.ListKind, Qt::CaseInsensitive))
+        return;
+    const ImportTexts data = m_texts;
+    const int refused = m_refused;
+    ImportDatFile(path.left(path.size() - 4) + u"_Details.dat"_s, mode);
+    const Configuration& config = m_session.Config;
+    m_texts.caption = u"Bericht über %1 %2 + Details Import"_s.arg(config.SeriesName, config.ListKind);
+    m_texts.bericht = JoinReports(data.bericht, m_texts.bericht);
+    m_texts.fehler = JoinReports(data.fehler, m_texts.fehler);
+    m_refused += refused;
+}
+
+} // namespace heft
