@@ -20,7 +20,8 @@ const QString CycleFileSuffix = u" Zyklus.mdb"_s;
 
 // The series from "--series NAME", else from the cycle file's name
 // "{Series} Zyklus.mdb"; empty when neither tells it.
-QString SeriesOf(const QStringList& arguments, const QFileInfo& cycleFile) {
+QString SeriesOf(const QStringList& arguments, const QFileInfo& cycleFile)
+{
     const qsizetype at = arguments.indexOf(u"--series"_s);
     if (at >= 0)
         return arguments.value(at + 1);
@@ -30,7 +31,8 @@ QString SeriesOf(const QStringList& arguments, const QFileInfo& cycleFile) {
 
 // The cycle file lies in the data folder's DBs folder; a file elsewhere
 // takes its own folder as the data folder.
-QString DataFolderOf(const QFileInfo& cycleFile) {
+QString DataFolderOf(const QFileInfo& cycleFile)
+{
     QDir folder = cycleFile.absoluteDir();
     if (folder.dirName() == u"DBs" && folder.cdUp())
         return folder.path();
@@ -39,7 +41,8 @@ QString DataFolderOf(const QFileInfo& cycleFile) {
 
 } // namespace
 
-int CyclesCommand(const QStringList& arguments, QTextStream& out, QTextStream& err) {
+int CyclesCommand(const QStringList& arguments, QTextStream& out, QTextStream& err)
+{
     const QString path = arguments.value(1);
     if (path.isEmpty() || arguments.value(2) != u"cycles" || arguments.value(3) != u"export") {
         err << u"Aufruf: heftarium-cli --cycle-db DATEI cycles export [--series SERIE]\n"_s;

@@ -12,7 +12,8 @@ namespace {
 constexpr int ProposedSpan = 50;
 } // namespace
 
-CycleRow ProposeNextCycle(int lastNr, const CycleRow& last) {
+CycleRow ProposeNextCycle(int lastNr, const CycleRow& last)
+{
     const auto lastEnd = static_cast<qint64>(Val(last.NrBis));
     CycleRow next;
     next.Zyklus = NumberToRoman(lastNr + 1);
@@ -25,7 +26,8 @@ CycleRow ProposeNextCycle(int lastNr, const CycleRow& last) {
     return next;
 }
 
-bool CycleBoxAcceptsKey(CycleBox box, const QString& typed) {
+bool CycleBoxAcceptsKey(CycleBox box, const QString& typed)
+{
     if (box == CycleBox::Zyklus)
         return false;
     if (typed.isEmpty() || !typed.front().isPrint())
@@ -33,19 +35,18 @@ bool CycleBoxAcceptsKey(CycleBox box, const QString& typed) {
     const QChar c = typed.front();
     switch (box) {
     case CycleBox::NrVon:
-    case CycleBox::NrBis:
-        return c >= u'0' && c <= u'9';
+    case CycleBox::NrBis: return c >= u'0' && c <= u'9';
     case CycleBox::ZeitVon:
     case CycleBox::ZeitBis:
         // A year before the series' era is negative; the sign may be typed
         // anywhere, as the box never checks where it stands.
         return (c >= u'0' && c <= u'9') || c == u'-';
-    default:
-        return true;
+    default: return true;
     }
 }
 
-CycleBox CheckCycleInput(CycleRow& input) {
+CycleBox CheckCycleInput(CycleRow& input)
+{
     if (Trim(input.Bezeichnung).isEmpty())
         input.Bezeichnung = u"*** Keine ***"_s;
     if (input.NrVon.isEmpty()) {
@@ -73,18 +74,20 @@ CycleBox CheckCycleInput(CycleRow& input) {
     return CycleBox::None;
 }
 
-QString InsertCycleSql(const CycleRow& row) {
+QString InsertCycleSql(const CycleRow& row)
+{
     return u"INSERT INTO ZyklusListe (Zyklus, NrVon, NrBis, ZeitVon, ZeitBis, Bezeichnung, Zyklusbereich) "
-           "VALUES ('%1', %2, %3, %4, %5, '%6', '%7');"_s.arg(
-               QuoteSql(row.Zyklus), row.NrVon, row.NrBis, row.ZeitVon, row.ZeitBis,
-               QuoteSql(row.Bezeichnung), QuoteSql(row.Zyklusbereich));
+           "VALUES ('%1', %2, %3, %4, %5, '%6', '%7');"_s.arg(QuoteSql(row.Zyklus), row.NrVon, row.NrBis, row.ZeitVon,
+                                                              row.ZeitBis, QuoteSql(row.Bezeichnung),
+                                                              QuoteSql(row.Zyklusbereich));
 }
 
-QString UpdateCycleSql(const CycleRow& row) {
+QString UpdateCycleSql(const CycleRow& row)
+{
     return u"UPDATE ZyklusListe SET NrVon=%1, NrBis=%2, ZeitVon=%3, ZeitBis=%4, Bezeichnung='%5', "
            "Zyklusbereich='%6' WHERE Zyklus='%7';"_s.arg(row.NrVon, row.NrBis, row.ZeitVon, row.ZeitBis,
-                                                         QuoteSql(row.Bezeichnung),
-                                                         QuoteSql(row.Zyklusbereich), QuoteSql(row.Zyklus));
+                                                         QuoteSql(row.Bezeichnung), QuoteSql(row.Zyklusbereich),
+                                                         QuoteSql(row.Zyklus));
 }
 
 } // namespace heft

@@ -17,33 +17,27 @@ namespace heft {
 
 namespace {
 
-constexpr CycleBox Boxes[] = {CycleBox::Zyklus,       CycleBox::NrVon,   CycleBox::NrBis,
-                              CycleBox::ZeitVon,      CycleBox::ZeitBis, CycleBox::Bezeichnung,
-                              CycleBox::Zyklusbereich};
-
-QString* Field(CycleRow& row, CycleBox box) {
-    QString* fields[] = {&row.Zyklus,  &row.NrVon,       &row.NrBis,        &row.ZeitVon,
-                         &row.ZeitBis, &row.Bezeichnung, &row.Zyklusbereich};
-    return fields[static_cast<int>(box) - 1];
-}
-
-bool IsEnter(int key) {
+bool IsEnter(int key)
+{
     return key == Qt::Key_Return || key == Qt::Key_Enter;
 }
 
 } // namespace
 
 CycleEditor::CycleEditor(CycleWindow& window, bool existing)
-    : QDialog(&window), m_ui(std::make_unique<Ui::CycleEditor>()), m_window(window), m_existing(existing) {
+    : QDialog(&window), m_ui(std::make_unique<Ui::CycleEditor>()), m_window(window), m_existing(existing)
+{
     m_ui->setupUi(this);
+    m_boxes = {m_ui->txt_zyklus,  m_ui->txt_vonnr, m_ui->txt_bisnr, m_ui->txt_vonjahr,
+               m_ui->txt_bisjahr, m_ui->txt_bez,   m_ui->txt_gz};
     // The key of a cycle follows from its place in the list and is never
     // typed: its box looks like a part of the window, not like an input.
     QPalette keyPalette = m_ui->txt_zyklus->palette();
     keyPalette.setBrush(QPalette::Base, keyPalette.button());
     m_ui->txt_zyklus->setPalette(keyPalette);
     m_ui->txt_zyklus->setReadOnly(true);
-    for (CycleBox box : Boxes)
-        Box(box)->installEventFilter(this);
+    for (QLineEdit* box : m_boxes)
+        box->installEventFilter(this);
     connect(m_ui->btn_ok, &QPushButton::clicked, this, &CycleEditor::AcceptClick);
     connect(m_ui->btn_nok, &QPushButton::clicked, this, &QDialog::reject);
 
@@ -53,49 +47,35 @@ CycleEditor::CycleEditor(CycleWindow& window, bool existing)
     } else {
         setWindowTitle(u"Neuen Zyklus erstellen ..."_s);
         const int last = grid.CycleCount() - 1;
-        Show(last >= 0 ? ProposeNextCycle(grid.NrOf(last), grid.Cycle(last))
-                       : ProposeNextCycle(0, CycleRow{}));
+        Show(last >= 0 ? ProposeNextCycle(grid.NrOf(last), grid.Cycle(last)) : ProposeNextCycle(0, CycleRow{}));
     }
 }
 
 CycleEditor::~CycleEditor() = default;
 
-QLineEdit* CycleEditor::Box(CycleBox box) const {
-    switch (box) {
-    case CycleBox::Zyklus:
-        return m_ui->txt_zyklus;
-    case CycleBox::NrVon:
-        return m_ui->txt_vonnr;
-    case CycleBox::NrBis:
-        return m_ui->txt_bisnr;
-    case CycleBox::ZeitVon:
-        return m_ui->txt_vonjahr;
-    case CycleBox::ZeitBis:
-        return m_ui->txt_bisjahr;
-    case CycleBox::Bezeichnung:
-        return m_ui->txt_bez;
-    case CycleBox::Zyklusbereich:
-        return m_ui->txt_gz;
-    case CycleBox::None:
-        break;
-    }
-    return nullptr;
+QLineEdit* CycleEditor::Box(CycleBox box) const
+{
+    return m_boxes.at(static_cast<int>(box) - 1);
 }
 
-CycleRow CycleEditor::Typed() const {
+CycleRow CycleEditor::Typed() const
+{
     CycleRow row;
-    for (CycleBox box : Boxes)
-        *Field(row, box) = Box(box)->text();
+    const auto fields = CycleFields(row);
+    for (int field = 0; field < CycleFieldCount; ++field)
+        *fields[field] = m_boxes[field]->text();
     return row;
 }
 
-void CycleEditor::Show(const CycleRow& row) {
-    CycleRow shown = row;
-    for (CycleBox box : Boxes)
-        Box(box)->setText(*Field(shown, box));
+void CycleEditor::Show(const CycleRow& row)
+{
+    const auto fields = CycleFields(row);
+    for (int field = 0; field < CycleFieldCount; ++field)
+        m_boxes[field]->setText(*fields[field]);
 }
 
-bool CycleEditor::eventFilter(QObject* watched, QEvent* event) {
+bool CycleEditor::eventFilter(QObject* watched, QEvent* event)
+{
     if (event->type() == QEvent::FocusIn) {
         // After the click that brought the focus, which would place the
         // cursor and undo the selection.
@@ -106,9 +86,8 @@ bool CycleEditor::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() != QEvent::KeyPress)
         return false;
     const auto& key = static_cast<const QKeyEvent&>(*event);
-    const auto it =
-        std::find_if(std::begin(Boxes), std::end(Boxes), [&](CycleBox b) { return Box(b) == watched; });
-    const CycleBox box = it != std::end(Boxes) ? *it : CycleBox::None;
+    const auto it = std::find(m_boxes.begin(), m_boxes.end(), watched);
+    const auto box = it != m_boxes.end() ? CycleBox(it - m_boxes.begin() + 1) : CycleBox::None;
     if (key.key() == Qt::Key_Tab || key.key() == Qt::Key_Backtab || key.key() == Qt::Key_Escape)
         return false;
     if (box == CycleBox::Zyklus)
@@ -121,7 +100,8 @@ bool CycleEditor::eventFilter(QObject* watched, QEvent* event) {
     return !CycleBoxAcceptsKey(box, key.text());
 }
 
-void CycleEditor::AcceptClick() {
+void CycleEditor::AcceptClick()
+{
     CycleRow input = Typed();
     const CycleBox refused = CheckCycleInput(input);
     Show(input);
@@ -140,7 +120,8 @@ void CycleEditor::AcceptClick() {
     accept();
 }
 
-void CycleEditor::UpdateGrid(const CycleRow& row) {
+void CycleEditor::UpdateGrid(const CycleRow& row)
+{
     CycleGrid& grid = m_window.Grid();
     int index = grid.currentRow();
     if (m_existing)

@@ -22,15 +22,15 @@ class CycleWindow;
 class CycleEditor : public QDialog {
     Q_OBJECT
 
-  public:
+public:
     // existing: the current line of the grid; else a new cycle after the last.
     CycleEditor(CycleWindow& window, bool existing);
     ~CycleEditor() override;
 
-  protected:
+protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
-  private:
+private:
     QLineEdit* Box(CycleBox box) const;
     CycleRow Typed() const;
     void Show(const CycleRow& row);
@@ -39,6 +39,8 @@ class CycleEditor : public QDialog {
     void UpdateGrid(const CycleRow& row);
 
     std::unique_ptr<Ui::CycleEditor> m_ui;
+    // The boxes in the order of the record's fields.
+    std::array<QLineEdit*, CycleFieldCount> m_boxes{};
     CycleWindow& m_window;
     bool m_existing;
 };

@@ -20,8 +20,8 @@ QString CycleFilePath(const QString& dataFolder, const QString& seriesName);
 // Writes the file, replacing an old one; rowWritten gets the count so far
 // after each row. A failure to write is not reported: the result then tells
 // the length of what exists.
-CycleExportResult ExportCycles(const QString& dataFolder, const QString& seriesName,
-                               const QList<CycleRow>& rows, const std::function<void(int)>& rowWritten = {});
+CycleExportResult ExportCycles(const QString& dataFolder, const QString& seriesName, const QList<CycleRow>& rows,
+                               const std::function<void(int)>& rowWritten = {});
 
 inline const QString CycleExportTitle = QStringLiteral("Export Ergebnis");
 // The text of the closing message; its lines are broken by lone CRs.

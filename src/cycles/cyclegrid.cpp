@@ -23,22 +23,15 @@ constexpr Qt::Alignment Right = Qt::AlignRight | Qt::AlignVCenter;
 constexpr Qt::Alignment Left = Qt::AlignLeft | Qt::AlignVCenter;
 
 const GridColumn Columns[] = {
-    {u"Nr", 300, Right},          {u"Zyklus", 750, Right},      {u"Von Nr", 750, Right},
-    {u"Bis Nr", 750, Right},      {u"Von Jahr", 750, Right},    {u"Bis Jahr", 750, Right},
-    {u"Bezeichnung", 3300, Left}, {u"Groß-Zyklus", 3300, Left},
+    {u"Nr", 300, Right},       {u"Zyklus", 750, Right},   {u"Von Nr", 750, Right},      {u"Bis Nr", 750, Right},
+    {u"Von Jahr", 750, Right}, {u"Bis Jahr", 750, Right}, {u"Bezeichnung", 3300, Left}, {u"Groß-Zyklus", 3300, Left},
 };
 constexpr int ColumnCount = std::size(Columns);
 
-// The record's fields in the order of the grid's columns 1 to 7.
-QString* Fields(CycleRow& row, int column) {
-    QString* fields[] = {&row.Zyklus,  &row.NrVon,       &row.NrBis,        &row.ZeitVon,
-                         &row.ZeitBis, &row.Bezeichnung, &row.Zyklusbereich};
-    return fields[column - 1];
-}
-
 } // namespace
 
-CycleGrid::CycleGrid(QWidget* parent) : QTableWidget(parent) {
+CycleGrid::CycleGrid(QWidget* parent) : QTableWidget(parent)
+{
     setObjectName(u"fg_zyklus"_s);
     setColumnCount(ColumnCount);
     verticalHeader()->hide();
@@ -54,7 +47,8 @@ CycleGrid::CycleGrid(QWidget* parent) : QTableWidget(parent) {
     setContextMenuPolicy(Qt::CustomContextMenu);
 }
 
-void CycleGrid::Format(int cycles) {
+void CycleGrid::Format(int cycles)
+{
     clearContents();
     setRowCount(cycles);
     for (int column = 0; column < ColumnCount; ++column) {
@@ -63,12 +57,13 @@ void CycleGrid::Format(int cycles) {
         setHorizontalHeaderItem(column, header);
         // The widths were chosen for a smaller font than today's screens
         // show; a header is never cut.
-        setColumnWidth(column, std::max(TwipsToPixels(Columns[column].twips),
-                                        horizontalHeader()->sectionSizeHint(column)));
+        setColumnWidth(column,
+                       std::max(TwipsToPixels(Columns[column].twips), horizontalHeader()->sectionSizeHint(column)));
     }
 }
 
-void CycleGrid::SetCell(int index, int column, const QString& text) {
+void CycleGrid::SetCell(int index, int column, const QString& text)
+{
     auto* cell = new QTableWidgetItem(text);
     cell->setTextAlignment(Columns[column].alignment);
     if (column == 0) {
@@ -81,14 +76,16 @@ void CycleGrid::SetCell(int index, int column, const QString& text) {
     setItem(index, column, cell);
 }
 
-void CycleGrid::SetCycle(int index, int nr, const CycleRow& row) {
+void CycleGrid::SetCycle(int index, int nr, const CycleRow& row)
+{
     SetCell(index, 0, QString::number(nr));
-    CycleRow copy = row;
+    const auto fields = CycleFields(row);
     for (int column = 1; column < ColumnCount; ++column)
-        SetCell(index, column, *Fields(copy, column));
+        SetCell(index, column, *fields[column - 1]);
 }
 
-int CycleGrid::AppendCycle(const CycleRow& row) {
+int CycleGrid::AppendCycle(const CycleRow& row)
+{
     const int index = rowCount();
     const int nr = index > 0 ? NrOf(index - 1) + 1 : 1;
     insertRow(index);
@@ -96,16 +93,19 @@ int CycleGrid::AppendCycle(const CycleRow& row) {
     return index;
 }
 
-CycleRow CycleGrid::Cycle(int index) const {
+CycleRow CycleGrid::Cycle(int index) const
+{
     CycleRow row;
+    const auto fields = CycleFields(row);
     for (int column = 1; column < ColumnCount; ++column) {
         const QTableWidgetItem* cell = item(index, column);
-        *Fields(row, column) = cell != nullptr ? cell->text() : QString();
+        *fields[column - 1] = cell != nullptr ? cell->text() : QString();
     }
     return row;
 }
 
-QList<CycleRow> CycleGrid::Cycles() const {
+QList<CycleRow> CycleGrid::Cycles() const
+{
     QList<CycleRow> rows;
     rows.reserve(rowCount());
     for (int index = 0; index < rowCount(); ++index)
@@ -113,12 +113,14 @@ QList<CycleRow> CycleGrid::Cycles() const {
     return rows;
 }
 
-int CycleGrid::NrOf(int index) const {
+int CycleGrid::NrOf(int index) const
+{
     const QTableWidgetItem* cell = item(index, 0);
     return cell != nullptr ? static_cast<int>(Val(cell->text())) : 0;
 }
 
-void CycleGrid::SelectCycle(int index) {
+void CycleGrid::SelectCycle(int index)
+{
     if (index < 0 || index >= rowCount())
         return;
     setCurrentCell(index, 1);
@@ -126,7 +128,8 @@ void CycleGrid::SelectCycle(int index) {
     scrollToItem(item(index, 1), PositionAtTop);
 }
 
-int CycleGrid::ContentWidth() const {
+int CycleGrid::ContentWidth() const
+{
     int width = 2 * frameWidth() + style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
     for (int column = 0; column < ColumnCount; ++column)
         width += columnWidth(column);

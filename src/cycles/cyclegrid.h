@@ -12,7 +12,7 @@ namespace heft {
 class CycleGrid : public QTableWidget {
     Q_OBJECT
 
-  public:
+public:
     explicit CycleGrid(QWidget* parent = nullptr);
 
     // Rows for this many cycles, with the headers, widths and alignments.
@@ -31,7 +31,7 @@ class CycleGrid : public QTableWidget {
     // Width of the columns and the vertical scroll bar, in pixels.
     int ContentWidth() const;
 
-  private:
+private:
     void SetCell(int index, int column, const QString& text);
 };
 

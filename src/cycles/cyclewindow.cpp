@@ -25,7 +25,8 @@ constexpr int ProgressLinger = 250;
 constexpr int VisibleRows = 24;
 } // namespace
 
-CycleWindow::CycleWindow(MainWindow& main) : QMainWindow(&main, Qt::Window), m_main(main) {
+CycleWindow::CycleWindow(MainWindow& main) : QMainWindow(&main, Qt::Window), m_main(main)
+{
     setObjectName(u"frm_zyklus"_s);
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(u"%1 Zyklen"_s.arg(CurrentSession().Config.SeriesName));
@@ -48,8 +49,7 @@ CycleWindow::CycleWindow(MainWindow& main) : QMainWindow(&main, Qt::Window), m_m
     data->setObjectName(u"zmnu_daten"_s);
     // The cycle file is read back through the main window's import.
     AddCommand(data, u"zmnu_import"_s, u"Import"_s);
-    connect(AddCommand(data, u"zmnu_export"_s, u"Export"_s), &QAction::triggered, this,
-            &CycleWindow::ExportClick);
+    connect(AddCommand(data, u"zmnu_export"_s, u"Export"_s), &QAction::triggered, this, &CycleWindow::ExportClick);
 
     auto* escape = new QAction(this);
     escape->setShortcut(Qt::Key_Escape);
@@ -60,23 +60,25 @@ CycleWindow::CycleWindow(MainWindow& main) : QMainWindow(&main, Qt::Window), m_m
     connect(m_grid, &QWidget::customContextMenuRequested, this, &CycleWindow::ShowPopup);
 }
 
-Session& CycleWindow::CurrentSession() {
+Session& CycleWindow::CurrentSession()
+{
     return m_main.CurrentSession();
 }
 
-QAction* CycleWindow::AddCommand(QMenu* menu, const QString& name, const QString& caption) {
+QAction* CycleWindow::AddCommand(QMenu* menu, const QString& name, const QString& caption)
+{
     QAction* action = menu->addAction(caption);
     action->setObjectName(name);
     return action;
 }
 
-void CycleWindow::Load() {
+void CycleWindow::Load()
+{
     Session& session = CurrentSession();
     if (!session.CycleDb) {
         session.EditAccepted = false;
         session.prompter->Tell(u"Probleme beim Öffnen der Zyklus-DB"_s,
-                               u"Die Zyklus Datenbank\rkonnte nicht geöffnet werden!"_s,
-                               MessageIcon::Critical);
+                               u"Die Zyklus Datenbank\rkonnte nicht geöffnet werden!"_s, MessageIcon::Critical);
         return;
     }
     QList<CycleRow> rows;
@@ -84,8 +86,7 @@ void CycleWindow::Load() {
     if (!ReadCycles(*session.CycleDb, rows, &error)) {
         session.EditAccepted = false;
         session.prompter->Tell(u"Probleme beim Lesen der Zyklus-DB"_s,
-                               u"Die Zyklus Datenbank\rkonnte nicht gelesen werden!"_s,
-                               MessageIcon::Critical);
+                               u"Die Zyklus Datenbank\rkonnte nicht gelesen werden!"_s, MessageIcon::Critical);
         return;
     }
     m_main.SetStatusPanel(StatusPanel, u"Lese Zyklus Informationen ..."_s);
@@ -109,16 +110,19 @@ void CycleWindow::Load() {
     m_main.SetStatusPanel(StatusPanel, u"Fertig und Bereit."_s);
 }
 
-void CycleWindow::UpdateDeleteCommand() {
+void CycleWindow::UpdateDeleteCommand()
+{
     m_delete->setEnabled(CanDeleteLastCycle(m_grid->CycleCount()));
 }
 
-void CycleWindow::SetProgress(int value) {
+void CycleWindow::SetProgress(int value)
+{
     if (auto* bar = m_main.findChild<QProgressBar*>(u"pbar_load"_s))
         bar->setValue(value);
 }
 
-void CycleWindow::EditClick(bool existing) {
+void CycleWindow::EditClick(bool existing)
+{
     // There is nothing to change in an empty list.
     if (existing && m_grid->currentRow() < 0)
         return;
@@ -132,15 +136,15 @@ void CycleWindow::EditClick(bool existing) {
     activateWindow();
 }
 
-void CycleWindow::DeleteClick() {
+void CycleWindow::DeleteClick()
+{
     const int last = m_grid->CycleCount() - 1;
     if (last < 0)
         return;
     Session& session = CurrentSession();
     const CycleRow row = m_grid->Cycle(last);
-    const Answer answer =
-        session.prompter->Ask({u"Rückfrage Löschen"_s, DeleteCycleQuestion(m_grid->NrOf(last), row),
-                               MessageIcon::Question, MessageButtons::YesNo, Answer::No});
+    const Answer answer = session.prompter->Ask({u"Rückfrage Löschen"_s, DeleteCycleQuestion(m_grid->NrOf(last), row),
+                                                 MessageIcon::Question, MessageButtons::YesNo, Answer::No});
     if (answer != Answer::Yes)
         return;
     session.CurrentSql = DeleteCycleSql(row.Zyklus);
@@ -150,7 +154,8 @@ void CycleWindow::DeleteClick() {
     UpdateDeleteCommand();
 }
 
-void CycleWindow::ExportClick() {
+void CycleWindow::ExportClick()
+{
     Session& session = CurrentSession();
     const QList<CycleRow> rows = m_grid->Cycles();
     m_main.SetStatusPanel(StatusPanel, u"Exportiere Einträge ..."_s);
@@ -162,7 +167,8 @@ void CycleWindow::ExportClick() {
     session.prompter->Tell(CycleExportTitle, CycleExportMessage(result), MessageIcon::Information);
 }
 
-void CycleWindow::ShowPopup(const QPoint& position) {
+void CycleWindow::ShowPopup(const QPoint& position)
+{
     const int row = m_grid->rowAt(position.y());
     if (row < 0)
         return;

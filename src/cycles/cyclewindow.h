@@ -18,7 +18,7 @@ class Session;
 class CycleWindow : public QMainWindow {
     Q_OBJECT
 
-  public:
+public:
     explicit CycleWindow(MainWindow& main);
 
     // Reads the list and shows the window on the current entry's cycle. When
@@ -30,7 +30,7 @@ class CycleWindow : public QMainWindow {
     // zmnu_delete is on while there are at least two cycles.
     void UpdateDeleteCommand();
 
-  private:
+private:
     QAction* AddCommand(QMenu* menu, const QString& name, const QString& caption);
     void EditClick(bool existing);
     void DeleteClick();

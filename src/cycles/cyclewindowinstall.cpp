@@ -13,7 +13,8 @@ namespace heft {
 
 namespace {
 
-void CycleInfoClick(MainWindow& window) {
+void CycleInfoClick(MainWindow& window)
+{
     if (CycleWindow* open = OpenCycleWindow(window)) {
         open->raise();
         open->activateWindow();
@@ -33,7 +34,8 @@ void CycleInfoClick(MainWindow& window) {
 
 } // namespace
 
-void InstallCycleWindow(MainWindow& window) {
+void InstallCycleWindow(MainWindow& window)
+{
     window.SetCommandHandler(u"mnu_zyklus"_s, [&window] { CycleInfoClick(window); });
     // The window switched its commands on before this one had its work.
     const bool enabled = window.CurrentSession().CycleDb != nullptr;
@@ -41,7 +43,8 @@ void InstallCycleWindow(MainWindow& window) {
         window.Command(name)->setEnabled(enabled);
 }
 
-CycleWindow* OpenCycleWindow(MainWindow& window) {
+CycleWindow* OpenCycleWindow(MainWindow& window)
+{
     // A window that was closed is gone at the next turn of the event loop;
     // until then it no longer counts as open.
     const auto open = window.findChildren<CycleWindow*>(Qt::FindDirectChildrenOnly);

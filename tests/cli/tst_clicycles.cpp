@@ -17,23 +17,24 @@ using namespace Qt::StringLiterals;
 class TestCliCycles : public QObject {
     Q_OBJECT
 
-  private Q_SLOTS:
-    void exportCycles_data() {
+private Q_SLOTS:
+    void exportCycles_data()
+    {
         QTest::addColumn<QString>("cycleFile"); // below the temporary folder
         QTest::addColumn<QStringList>("options");
         QTest::addColumn<int>("code");
         QTest::addColumn<QString>("written"); // below the temporary folder, empty for none
         QTest::newRow("in DBs") << u"DBs/Valdorin Zyklus.mdb"_s << QStringList{} << 0
                                 << u"export/Valdorin-Zyklus.dat"_s;
-        QTest::newRow("series given")
-            << u"Liste.mdb"_s << QStringList{u"--series"_s, u"Orion"_s} << 0 << u"export/Orion-Zyklus.dat"_s;
+        QTest::newRow("series given") << u"Liste.mdb"_s << QStringList{u"--series"_s, u"Orion"_s} << 0
+                                      << u"export/Orion-Zyklus.dat"_s;
         QTest::newRow("series unknown") << u"Liste.mdb"_s << QStringList{} << 2 << QString();
         QTest::newRow("no such file") << u"Fehlt Zyklus.mdb"_s << QStringList{} << 1 << QString();
-        QTest::newRow("other command")
-            << u"DBs/Valdorin Zyklus.mdb"_s << QStringList{u"import"_s} << 2 << QString();
+        QTest::newRow("other command") << u"DBs/Valdorin Zyklus.mdb"_s << QStringList{u"import"_s} << 2 << QString();
     }
 
-    void exportCycles() {
+    void exportCycles()
+    {
         QFETCH(QString, cycleFile);
         QFETCH(QStringList, options);
         QFETCH(int, code);

@@ -1,5 +1,5 @@
-// The editor's rules without its window: the checks and their order, the
-// proposal for a new cycle, the key filters and the statements.
+// The editor's rules without its window: the checks and their order, and
+// the statements exactly as written.
 
 #include "testmain.h"
 
@@ -12,11 +12,13 @@ using namespace heft;
 
 namespace {
 
-CycleRow Row(const QStringList& f) {
+CycleRow Row(const QStringList& f)
+{
     return {f.value(0), f.value(1), f.value(2), f.value(3), f.value(4), f.value(5), f.value(6)};
 }
 
-QStringList Fields(const CycleRow& r) {
+QStringList Fields(const CycleRow& r)
+{
     return {r.Zyklus, r.NrVon, r.NrBis, r.ZeitVon, r.ZeitBis, r.Bezeichnung, r.Zyklusbereich};
 }
 
@@ -25,15 +27,16 @@ QStringList Fields(const CycleRow& r) {
 class TestCycleEdit : public QObject {
     Q_OBJECT
 
-  private Q_SLOTS:
-    void checks_data() {
+private Q_SLOTS:
+    void checks_data()
+    {
         QTest::addColumn<QStringList>("typed");
         QTest::addColumn<int>("refused"); // CycleBox
         QTest::addColumn<QStringList>("after");
         const QString keine = u"*** Keine ***"_s;
         QTest::newRow("all good") << QStringList{u"V"_s, u"10"_s, u"20"_s, u"-5"_s, u"7"_s, u"Titel"_s, u""_s}
-                                  << int(CycleBox::None) << QStringList{u"V"_s, u"10"_s,    u"20"_s, u"-5"_s,
-                                                                        u"7"_s, u"Titel"_s, u""_s};
+                                  << int(CycleBox::None)
+                                  << QStringList{u"V"_s, u"10"_s, u"20"_s, u"-5"_s, u"7"_s, u"Titel"_s, u""_s};
         // A blank title is replaced and the checks go on to the first stop.
         QTest::newRow("blank title, then empty from")
             << QStringList{u"V"_s, u""_s, u""_s, u""_s, u""_s, u"   "_s, u"G"_s} << int(CycleBox::NrVon)
@@ -44,8 +47,7 @@ class TestCycleEdit : public QObject {
         // Compared as texts: 900 lies behind 1000.
         QTest::newRow("900 to 1000") << QStringList{u"V"_s, u"900"_s, u"1000"_s, u""_s, u""_s, u"T"_s, u""_s}
                                      << int(CycleBox::NrVon)
-                                     << QStringList{u"V"_s, u"1000"_s, u"1000"_s, u""_s,
-                                                    u""_s,  u"T"_s,    u""_s};
+                                     << QStringList{u"V"_s, u"1000"_s, u"1000"_s, u""_s, u""_s, u"T"_s, u""_s};
         QTest::newRow("10 to 9 passes as text")
             << QStringList{u"V"_s, u"10"_s, u"9"_s, u"1"_s, u""_s, u"T"_s, u""_s} << int(CycleBox::ZeitBis)
             << QStringList{u"V"_s, u"10"_s, u"9"_s, u"1"_s, u"0"_s, u"T"_s, u""_s};
@@ -54,7 +56,8 @@ class TestCycleEdit : public QObject {
             << QStringList{u"V"_s, u"5"_s, u"6"_s, u"0"_s, u""_s, u"T"_s, u""_s};
     }
 
-    void checks() {
+    void checks()
+    {
         QFETCH(QStringList, typed);
         QFETCH(int, refused);
         QFETCH(QStringList, after);
@@ -63,41 +66,13 @@ class TestCycleEdit : public QObject {
         QCOMPARE(Fields(row), after);
     }
 
-    void proposal() {
-        const CycleRow last =
-            Row({u"XIV"_s, u"650"_s, u"699"_s, u"-20"_s, u"3012"_s, u"Der Nebel"_s, u"Groß"_s});
-        QCOMPARE(Fields(ProposeNextCycle(14, last)),
-                 (QStringList{u"XV"_s, u"700"_s, u"749"_s, u"3012"_s, u"3012"_s, u"Der Nebel"_s, u"Groß"_s}));
-    }
-
-    void keys_data() {
-        QTest::addColumn<int>("box");
-        QTest::addColumn<QString>("accepted"); // of "7-a \b"
-        QTest::newRow("key") << int(CycleBox::Zyklus) << u""_s;
-        QTest::newRow("number") << int(CycleBox::NrBis) << u"7\b"_s;
-        QTest::newRow("year") << int(CycleBox::ZeitVon) << u"7-\b"_s;
-        QTest::newRow("title") << int(CycleBox::Bezeichnung) << u"7-a \b"_s;
-    }
-
-    void keys() {
-        QFETCH(int, box);
-        QFETCH(QString, accepted);
-        QString passed;
-        for (QChar c : u"7-a \b"_s) {
-            if (CycleBoxAcceptsKey(CycleBox(box), QString(c)))
-                passed += c;
-        }
-        QCOMPARE(passed, accepted);
-    }
-
-    void statements() {
+    void statements()
+    {
         const CycleRow row = Row({u"IX"_s, u"400"_s, u"449"_s, u"-12"_s, u"30"_s, u"Ka'Rell"_s, u""_s});
-        QCOMPARE(InsertCycleSql(row),
-                 u"INSERT INTO ZyklusListe (Zyklus, NrVon, NrBis, ZeitVon, ZeitBis, Bezeichnung, "
-                 "Zyklusbereich) VALUES ('IX', 400, 449, -12, 30, 'Ka''Rell', '');"_s);
-        QCOMPARE(UpdateCycleSql(row),
-                 u"UPDATE ZyklusListe SET NrVon=400, NrBis=449, ZeitVon=-12, ZeitBis=30, "
-                 "Bezeichnung='Ka''Rell', Zyklusbereich='' WHERE Zyklus='IX';"_s);
+        QCOMPARE(InsertCycleSql(row), u"INSERT INTO ZyklusListe (Zyklus, NrVon, NrBis, ZeitVon, ZeitBis, Bezeichnung, "
+                                      "Zyklusbereich) VALUES ('IX', 400, 449, -12, 30, 'Ka''Rell', '');"_s);
+        QCOMPARE(UpdateCycleSql(row), u"UPDATE ZyklusListe SET NrVon=400, NrBis=449, ZeitVon=-12, ZeitBis=30, "
+                                      "Bezeichnung='Ka''Rell', Zyklusbereich='' WHERE Zyklus='IX';"_s);
     }
 };
 

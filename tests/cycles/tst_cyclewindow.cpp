@@ -43,16 +43,17 @@ const Cycles ThreeCycles = {
     {u"III"_s, u"101"_s, u"150"_s, u"40"_s, u"90"_s, u"Kaiser"_s, u"Aufbruch"_s},
 };
 
-QString SqlValue(const QString& value, bool text) {
+QString SqlValue(const QString& value, bool text)
+{
     if (value == u"NULL")
         return value;
     return text ? u"'"_s + QuoteSql(value) + u"'"_s : value;
 }
 
 struct Fixture {
-    explicit Fixture(const Cycles& cycles = ThreeCycles, const QString& entryCycle = u"II"_s) {
-        collection.Add(
-            {{7, u"Ava Lind"_s, u"Morgensonne"_s, 1, entryCycle}, {8, u"Bo Kern"_s, u"Nachtflug"_s}});
+    explicit Fixture(const Cycles& cycles = ThreeCycles, const QString& entryCycle = u"II"_s)
+    {
+        collection.Add({{7, u"Ava Lind"_s, u"Morgensonne"_s, 1, entryCycle}, {8, u"Bo Kern"_s, u"Nachtflug"_s}});
         DbError error;
         session().CycleDb = CreateCycleFile(collection.dir.filePath(u"Zyklus.mdb"_s), &error);
         for (const QStringList& c : cycles)
@@ -65,7 +66,8 @@ struct Fixture {
     Session& session() { return collection.session; }
     void CycleExec(const QString& sql) { QVERIFY(!session().CycleDb->Execute(sql)); }
     QString CycleValue(const QString& sql) { return session().CycleDb->SelectValue(sql).toString(); }
-    CycleWindow* Open() {
+    CycleWindow* Open()
+    {
         window.Command(u"mnu_zyklus"_s)->trigger();
         return OpenCycleWindow(window);
     }
@@ -75,20 +77,23 @@ struct Fixture {
     MainWindow window;
 };
 
-QStringList Line(const CycleGrid& grid, int index) {
+QStringList Line(const CycleGrid& grid, int index)
+{
     QStringList cells;
     for (int column = 0; column < grid.columnCount(); ++column)
         cells << grid.item(index, column)->text();
     return cells;
 }
 
-QLineEdit* Box(QWidget& dialog, const QString& name) {
+QLineEdit* Box(QWidget& dialog, const QString& name)
+{
     return dialog.findChild<QLineEdit*>(name);
 }
 
 // Runs an editor command; step works in the modal editor, which must be
 // closed when it returns.
-void InEditor(QAction* command, const std::function<void(QDialog&)>& step) {
+void InEditor(QAction* command, const std::function<void(QDialog&)>& step)
+{
     bool ran = false;
     QTimer::singleShot(0, [&] {
         auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
@@ -104,7 +109,8 @@ void InEditor(QAction* command, const std::function<void(QDialog&)>& step) {
     QVERIFY(ran);
 }
 
-void Type(QDialog& dialog, const QString& name, const QString& text) {
+void Type(QDialog& dialog, const QString& name, const QString& text)
+{
     QLineEdit* box = Box(dialog, name);
     box->selectAll();
     box->del();
@@ -116,8 +122,9 @@ void Type(QDialog& dialog, const QString& name, const QString& text) {
 class TestCycleWindow : public QObject {
     Q_OBJECT
 
-  private Q_SLOTS:
-    void fill_data() {
+private Q_SLOTS:
+    void fill_data()
+    {
         QTest::addColumn<QString>("entryCycle");
         QTest::addColumn<Cycles>("extra");
         QTest::addColumn<int>("shown");
@@ -127,7 +134,8 @@ class TestCycleWindow : public QObject {
             << u"II"_s << Cycles{{u"II"_s, u"151"_s, u"160"_s, u"1"_s, u"2"_s, u"Doppelt"_s, u""_s}} << 3;
     }
 
-    void fill() {
+    void fill()
+    {
         QFETCH(QString, entryCycle);
         QFETCH(Cycles, extra);
         QFETCH(int, shown);
@@ -139,8 +147,8 @@ class TestCycleWindow : public QObject {
         QVERIFY(f.session().EditAccepted);
         const CycleGrid& grid = w->Grid();
         QCOMPARE(grid.CycleCount(), 3 + extra.size());
-        QCOMPARE(Line(grid, 0), (QStringList{u"1"_s, u"I"_s, u"1"_s, u"50"_s, u"-100"_s, u"20"_s,
-                                             u"Die Größe  "_s, u"Aufbruch"_s}));
+        QCOMPARE(Line(grid, 0),
+                 (QStringList{u"1"_s, u"I"_s, u"1"_s, u"50"_s, u"-100"_s, u"20"_s, u"Die Größe  "_s, u"Aufbruch"_s}));
         QCOMPARE(grid.item(1, 7)->text(), QString()); // NULL
         QCOMPARE(grid.horizontalHeaderItem(7)->text(), u"Groß-Zyklus"_s);
         QCOMPARE(grid.currentRow(), shown);
@@ -156,7 +164,8 @@ class TestCycleWindow : public QObject {
         QVERIFY(!OpenCycleWindow(f.window));
     }
 
-    void unusableFile_data() {
+    void unusableFile_data()
+    {
         QTest::addColumn<bool>("open");
         QTest::addColumn<QString>("title");
         QTest::addColumn<QString>("text");
@@ -166,7 +175,8 @@ class TestCycleWindow : public QObject {
                                         << u"Die Zyklus Datenbank\rkonnte nicht gelesen werden!"_s;
     }
 
-    void unusableFile() {
+    void unusableFile()
+    {
         QFETCH(bool, open);
         QFETCH(QString, title);
         QFETCH(QString, text);
@@ -194,7 +204,8 @@ class TestCycleWindow : public QObject {
         }
     }
 
-    void deleteLast_data() {
+    void deleteLast_data()
+    {
         QTest::addColumn<int>("cycles");
         QTest::addColumn<Answer>("answer");
         QTest::addColumn<int>("left");
@@ -203,7 +214,8 @@ class TestCycleWindow : public QObject {
         QTest::newRow("yes, one stays") << 2 << Answer::Yes << 1;
     }
 
-    void deleteLast() {
+    void deleteLast()
+    {
         QFETCH(int, cycles);
         QFETCH(Answer, answer);
         QFETCH(int, left);
@@ -223,7 +235,8 @@ class TestCycleWindow : public QObject {
         QCOMPARE(remove->isEnabled(), left >= 2);
     }
 
-    void newCycle() {
+    void newCycle()
+    {
         Fixture f(ThreeCycles.mid(0, 1));
         CycleWindow* w = f.Open();
         QVERIFY(!f.Action(*w, u"zmnu_delete"_s)->isEnabled());
@@ -233,8 +246,8 @@ class TestCycleWindow : public QObject {
             for (const QString& name : {u"txt_zyklus"_s, u"txt_vonnr"_s, u"txt_bisnr"_s, u"txt_vonjahr"_s,
                                         u"txt_bisjahr"_s, u"txt_bez"_s, u"txt_gz"_s})
                 shown << Box(dialog, name)->text();
-            QCOMPARE(shown, (QStringList{u"II"_s, u"51"_s, u"100"_s, u"20"_s, u"20"_s, u"Die Größe  "_s,
-                                         u"Aufbruch"_s}));
+            QCOMPARE(shown,
+                     (QStringList{u"II"_s, u"51"_s, u"100"_s, u"20"_s, u"20"_s, u"Die Größe  "_s, u"Aufbruch"_s}));
             // Keys: the key box takes none, the number boxes digits only,
             // the year boxes a minus anywhere.
             QTest::keyClicks(Box(dialog, u"txt_zyklus"_s), u"X1"_s);
@@ -265,24 +278,25 @@ class TestCycleWindow : public QObject {
             Type(dialog, u"txt_gz"_s, QString());
             QTest::keyClick(Box(dialog, u"txt_bisnr"_s), Qt::Key_Enter);
         });
-        QCOMPARE(f.CycleValue(
-                     u"SELECT Zyklus || '|' || NrVon || '|' || NrBis || '|' || ZeitVon || '|' || ZeitBis || "
-                     "'|' || Bezeichnung || '|' || Zyklusbereich FROM ZyklusListe WHERE NrVon=51;"_s),
+        QCOMPARE(f.CycleValue(u"SELECT Zyklus || '|' || NrVon || '|' || NrBis || '|' || ZeitVon || '|' || ZeitBis || "
+                              "'|' || Bezeichnung || '|' || Zyklusbereich FROM ZyklusListe WHERE NrVon=51;"_s),
                  u"II|51|99|-15|20|Ka'Rell|"_s);
         const CycleGrid& grid = w->Grid();
-        QCOMPARE(Line(grid, 1), (QStringList{u"2"_s, u"II"_s, u"51"_s, u"99"_s, u"-15"_s, u"20"_s,
-                                             u"Ka'Rell"_s, QString()}));
+        QCOMPARE(Line(grid, 1),
+                 (QStringList{u"2"_s, u"II"_s, u"51"_s, u"99"_s, u"-15"_s, u"20"_s, u"Ka'Rell"_s, QString()}));
         QCOMPARE(grid.currentRow(), 1);
         QVERIFY(f.Action(*w, u"zmnu_delete"_s)->isEnabled());
     }
 
-    void changeCycle_data() {
+    void changeCycle_data()
+    {
         QTest::addColumn<bool>("accept");
         QTest::newRow("accepted") << true;
         QTest::newRow("discarded") << false;
     }
 
-    void changeCycle() {
+    void changeCycle()
+    {
         QFETCH(bool, accept);
         Fixture f;
         CycleWindow* w = f.Open();
@@ -304,18 +318,18 @@ class TestCycleWindow : public QObject {
         });
         QTest::mouseDClick(grid.viewport(), Qt::LeftButton, {}, cell.center());
         QVERIFY(!QApplication::activeModalWidget());
-        const QStringList expected = accept
-                                         ? QStringList{u"3"_s,  u"III"_s, u"101"_s,    u"160"_s,
-                                                       u"40"_s, u"90"_s,  u"Kaiser"_s, u"Der Kaiser's Zeit"_s}
-                                         : QStringList{u"3"_s,  u"III"_s, u"101"_s,    u"150"_s,
-                                                       u"40"_s, u"90"_s,  u"Kaiser"_s, u"Aufbruch"_s};
+        const QStringList expected =
+            accept ? QStringList{u"3"_s,  u"III"_s, u"101"_s,    u"160"_s,
+                                 u"40"_s, u"90"_s,  u"Kaiser"_s, u"Der Kaiser's Zeit"_s}
+                   : QStringList{u"3"_s, u"III"_s, u"101"_s, u"150"_s, u"40"_s, u"90"_s, u"Kaiser"_s, u"Aufbruch"_s};
         QCOMPARE(Line(grid, 2), expected);
         QCOMPARE(f.CycleValue(u"SELECT NrBis || '|' || Zyklusbereich FROM ZyklusListe WHERE Zyklus='III';"_s),
                  expected[3] + u"|"_s + expected[7]);
         QCOMPARE(grid.CycleCount(), 3);
     }
 
-    void exportFile_data() {
+    void exportFile_data()
+    {
         QTest::addColumn<int>("cycles");
         QTest::addColumn<QByteArray>("bytes");
         QTest::addColumn<QString>("opening");
@@ -329,7 +343,8 @@ class TestCycleWindow : public QObject {
                                << u"Insgesamt 3 Einträge wurden in die Datei\r'"_s;
     }
 
-    void exportFile() {
+    void exportFile()
+    {
         QFETCH(int, cycles);
         QFETCH(QByteArray, bytes);
         QFETCH(QString, opening);
@@ -346,14 +361,15 @@ class TestCycleWindow : public QObject {
         const Message& message = f.collection.prompter.asked[0];
         QCOMPARE(message.title, u"Export Ergebnis"_s);
         QCOMPARE(message.icon, MessageIcon::Information);
-        QCOMPARE(message.text, opening + QDir::toNativeSeparators(path) +
-                                   u"'\rgesichert (%1 Bytes Dateilänge)."_s.arg(bytes.size()));
+        QCOMPARE(message.text,
+                 opening + QDir::toNativeSeparators(path) + u"'\rgesichert (%1 Bytes Dateilänge)."_s.arg(bytes.size()));
         QCOMPARE(f.window.StatusPanelText(5), u"Fertig und Bereit."_s);
     }
 
     // Pictures of both windows with the shipped cycle list, to look at; the
     // columns must fit the window without a horizontal scroll bar.
-    void pictures() {
+    void pictures()
+    {
         Fixture f(Cycles{});
         QFile source(QStringLiteral(HEFTARIUM_DATA_SOURCES "/valdorin/Valdorin-Zyklus.dat"));
         QVERIFY(source.open(QIODevice::ReadOnly));
