@@ -17,11 +17,9 @@
 #include <QDialog>
 #include <QDir>
 #include <QFile>
-#include <QHeaderView>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
-#include <QScrollBar>
 #include <QTest>
 #include <QTimer>
 
@@ -43,11 +41,9 @@ const Cycles ThreeCycles = {
     {u"III"_s, u"101"_s, u"150"_s, u"40"_s, u"90"_s, u"Kaiser"_s, u"Aufbruch"_s},
 };
 
-QString SqlValue(const QString& value, bool text)
+QString SqlText(const QString& value)
 {
-    if (value == u"NULL")
-        return value;
-    return text ? u"'"_s + QuoteSql(value) + u"'"_s : value;
+    return value == u"NULL" ? value : u"'"_s + QuoteSql(value) + u"'"_s;
 }
 
 struct Fixture {
@@ -58,7 +54,7 @@ struct Fixture {
         session().CycleDb = CreateCycleFile(collection.dir.filePath(u"Zyklus.mdb"_s), &error);
         for (const QStringList& c : cycles)
             CycleExec(u"INSERT INTO ZyklusListe VALUES (%1, %2, %3, %4, %5, %6, %7);"_s.arg(
-                SqlValue(c[0], true), c[1], c[2], c[3], c[4], SqlValue(c[5], true), SqlValue(c[6], true)));
+                SqlText(c[0]), c[1], c[2], c[3], c[4], SqlText(c[5]), SqlText(c[6])));
         window.LoadList(session());
         window.List().FindAndShowRow(7);
         InstallCycleWindow(window);
