@@ -366,7 +366,7 @@ private Q_SLOTS:
     // columns must fit the window without a horizontal scroll bar.
     void pictures()
     {
-        Fixture f(Cycles{});
+        Fixture f(Cycles{}, u"I"_s);
         QFile source(QStringLiteral(HEFTARIUM_DATA_SOURCES "/valdorin/Valdorin-Zyklus.dat"));
         QVERIFY(source.open(QIODevice::ReadOnly));
         const QStringList lines = QString::fromLatin1(source.readAll()).split(u"\r\n"_s, Qt::SkipEmptyParts);
