@@ -5,6 +5,7 @@
 #include "testmain.h"
 #include "testsupport.h"
 
+#include "core/codepage.h"
 #include "core/schema.h"
 #include "core/textfuncs.h"
 #include "cycles/cyclegrid.h"
@@ -362,14 +363,16 @@ private Q_SLOTS:
         QCOMPARE(f.window.StatusPanelText(5), u"Fertig und Bereit."_s);
     }
 
-    // Pictures of both windows with the shipped cycle list, to look at; the
+    // The shipped cycle list: written back to the cycle file it was built
+    // from, byte for byte, and pictures of both windows to look at, whose
     // columns must fit the window without a horizontal scroll bar.
-    void pictures()
+    void shippedList()
     {
         Fixture f(Cycles{}, u"I"_s);
         QFile source(QStringLiteral(HEFTARIUM_DATA_SOURCES "/valdorin/Valdorin-Zyklus.dat"));
         QVERIFY(source.open(QIODevice::ReadOnly));
-        const QStringList lines = QString::fromLatin1(source.readAll()).split(u"\r\n"_s, Qt::SkipEmptyParts);
+        const QByteArray sourceBytes = source.readAll();
+        const QStringList lines = FromWindows1252(sourceBytes).split(u"\r\n"_s, Qt::SkipEmptyParts);
         for (const QString& line : lines.mid(1)) {
             QStringList c = line.mid(1, line.size() - 3).split(u"\";\""_s);
             f.CycleExec(u"INSERT INTO ZyklusListe VALUES ('%1', %2, %3, %4, %5, '%6', '%7');"_s.arg(
@@ -385,6 +388,10 @@ private Q_SLOTS:
                 dialog.reject();
             });
         }
+        f.Action(*w, u"zmnu_export"_s)->trigger();
+        QFile written(QDir(f.session().DataFolder).filePath(u"export/Valdorin-Zyklus.dat"_s));
+        QVERIFY(written.open(QIODevice::ReadOnly));
+        QCOMPARE(written.readAll(), sourceBytes);
     }
 };
 
