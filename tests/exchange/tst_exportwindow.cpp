@@ -185,7 +185,7 @@ private Q_SLOTS:
     }
 
     // Opened by the menu command, modal, on the filter list when a filter
-    // is in force; Esc closes it when nothing runs.
+    // is in force; Esc closes it only when no export runs.
     void filterListFromMenu()
     {
         ExportWindow w;
@@ -197,13 +197,20 @@ private Q_SLOTS:
         InstallExportWindow(w.window, w.Chooser());
         QVERIFY(w.window.Command(u"mnu_export"_s)->isEnabled());
 
-        bool opened = false, closedByEsc = false;
+        bool opened = false, closedByEsc = false, disabledWhileBusy = false, openWhileBusy = false;
         QTimer::singleShot(0, [&] {
             QWidget* dialog = QApplication::activeModalWidget();
             opened = dialog && dialog->objectName() == u"frm_export";
             if (!opened)
                 return;
             Check(*dialog, u"tg"_s);
+            // While the export runs the window is off and stays open.
+            QTimer::singleShot(0, [&, dialog] {
+                disabledWhileBusy = !dialog->isEnabled();
+                dialog->close();
+                QTest::keyClick(dialog, Qt::Key_Escape);
+                openWhileBusy = dialog->isVisible();
+            });
             Child<QPushButton>(*dialog, u"btn_choose"_s)->click();
             dialog->grab().save(u"/tmp/shots/export_window.png"_s);
             QTest::keyClick(dialog, Qt::Key_Escape);
@@ -211,6 +218,8 @@ private Q_SLOTS:
         });
         w.window.Command(u"mnu_export"_s)->trigger();
         QVERIFY(opened);
+        QVERIFY(disabledWhileBusy);
+        QVERIFY(openWhileBusy);
         QVERIFY(closedByEsc);
         const QStringList text = FileLines(w.Path(u".txt"_s));
         QCOMPARE(text.size(), 2 + 2 + 2);
