@@ -6,7 +6,10 @@
 #include "startup.h"
 
 #include "core/sqlwriters.h"
+#include "cycles/cyclewindowinstall.h"
 #include "details/detailopener.h"
+#include "exchange/exportdialog.h"
+#include "exchange/importwindow.h"
 #include "filter/filtermode.h"
 #include "mainwin/mainwindow.h"
 #include "mainwin/splashwindow.h"
@@ -53,6 +56,9 @@ int main(int argc, char** argv)
     window.LoadList(session);
     heft::InstallDetailWindow(window);
     heft::InstallFilterMode(window);
+    heft::InstallCycleWindow(window);
+    heft::InstallImportWindow(window);
+    heft::InstallExportWindow(window);
     splash.close();
     QObject::connect(&app, &QCoreApplication::aboutToQuit, [&session] { heft::CloseDatabases(session); });
     return QApplication::exec();
