@@ -68,7 +68,7 @@ private:
     QString m_text;
 };
 
-// Writes the text in Windows-1252, replacing the file; false if it failed.
+// Writes the text in Windows-1252 as the whole file; false if it failed.
 bool WriteExportFile(const QString& path, const QString& text);
 // Size of the file in bytes, -1 when there is none.
 qint64 ExportFileSize(const QString& path);

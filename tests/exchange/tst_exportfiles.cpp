@@ -139,14 +139,19 @@ private Q_SLOTS:
         QVERIFY(!QFile::exists(e.target.Path(u".dat"_s)));
     }
 
+    // Singular texts; and a file from a longer export before is cut to
+    // the new one.
     void oneEntry()
     {
         Export e;
-        const QString result =
-            e.Run(Options(u"c"_s), ExportRows(e.collection, u"SELECT * FROM HEFTLIST WHERE Nr=2;"_s));
-        QVERIFY(result.startsWith(u"Es wurde 1/0 Eintrag exportiert.\r\nVerwendeter Dateiname:\r\n"_s));
-        e.Run(Options(u"t"_s), ExportRows(e.collection, u"SELECT * FROM HEFTLIST WHERE Nr=2;"_s));
-        QCOMPARE(e.Lines(u".txt"_s).last(), u"Valdorin Heftromane Nummer 2-2 (1 Eintrag)"_s);
+        e.Run(Options(u"t"_s));
+        const ExportList one = ExportRows(e.collection, u"SELECT * FROM HEFTLIST WHERE Nr=2;"_s);
+        QVERIFY(e.Run(Options(u"c"_s), one)
+                    .startsWith(u"Es wurde 1/0 Eintrag exportiert.\r\nVerwendeter Dateiname:\r\n"_s));
+        e.Run(Options(u"t"_s), one);
+        const QStringList text = e.Lines(u".txt"_s);
+        QCOMPARE(text.size(), 5);
+        QCOMPARE(text.last(), u"Valdorin Heftromane Nummer 2-2 (1 Eintrag)"_s);
     }
 
     void detailsText()
