@@ -37,10 +37,6 @@ void CycleInfoClick(MainWindow& window)
 void InstallCycleWindow(MainWindow& window)
 {
     window.SetCommandHandler(u"mnu_zyklus"_s, [&window] { CycleInfoClick(window); });
-    // The window switched its commands on before this one had its work.
-    const bool enabled = window.CurrentSession().CycleDb != nullptr;
-    for (const QString& name : {u"mnu_zyklus"_s, u"zykinfo"_s})
-        window.Command(name)->setEnabled(enabled);
 }
 
 CycleWindow* OpenCycleWindow(MainWindow& window)

@@ -7,7 +7,6 @@
 #include "filter/filtermode.h"
 #include "mainwin/mainwindow.h"
 
-#include <QAction>
 #include <QDesktopServices>
 #include <QDir>
 #include <QElapsedTimer>
@@ -167,11 +166,6 @@ void InstallExportWindow(MainWindow& window, ExportFileChooser chooser)
         ExportDialog dialog(window, chooser);
         dialog.exec();
     });
-    // The window switched its commands on before this one had its work.
-    const bool hasEntries = window.List().ActiveGrid->CurrentRowHoldsEntry();
-    for (const QString& name : {u"mnu_export"_s, u"export"_s})
-        if (QAction* action = window.Command(name))
-            action->setEnabled(hasEntries);
 }
 
 } // namespace heft

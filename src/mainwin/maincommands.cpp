@@ -148,12 +148,15 @@ void MainCommands::BuildToolbar(QMainWindow& window)
 
 void MainCommands::SetHandler(const QString& menuName, std::function<void()> handler)
 {
-    m_commands[menuName].handler = std::move(handler);
+    Command& command = m_commands[menuName];
+    command.handler = std::move(handler);
+    SetEnabled(menuName, command.wanted);
 }
 
 void MainCommands::SetEnabled(const QString& menuName, bool enabled)
 {
     Command& command = m_commands[menuName];
+    command.wanted = enabled;
     enabled = enabled && command.handler;
     for (QAction* action : {command.menuItem, command.button})
         if (action)

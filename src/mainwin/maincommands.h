@@ -23,7 +23,8 @@ class MainCommands : public QObject {
 public:
     explicit MainCommands(QMainWindow& window);
 
-    // Runs when the command is chosen; a command without a handler is off.
+    // Runs when the command is chosen; a command without a handler is off,
+    // and one that gets its handler later takes the state it was last given.
     void SetHandler(const QString& menuName, std::function<void()> handler);
     // Switches a command on or off in the menu and on the toolbar alike; a
     // command without a handler stays off.
@@ -42,6 +43,7 @@ private:
         QAction* menuItem = nullptr;
         QAction* button = nullptr;
         std::function<void()> handler;
+        bool wanted = false; // the state asked for, shown once there is a handler
     };
     void BuildMenus(QMainWindow& window);
     void BuildToolbar(QMainWindow& window);

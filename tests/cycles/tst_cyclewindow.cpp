@@ -178,12 +178,13 @@ private Q_SLOTS:
         QFETCH(QString, title);
         QFETCH(QString, text);
         Fixture f;
-        if (open)
+        if (open) {
             f.CycleExec(u"DROP TABLE ZyklusListe;"_s);
-        else
+        } else {
+            // Without a cycle file the list comes up with the command off.
             f.session().CycleDb.reset();
-        // The main window keeps the command off without a cycle file.
-        InstallCycleWindow(f.window);
+            f.window.LoadList(f.session());
+        }
         QCOMPARE(f.window.IsCommandEnabled(u"mnu_zyklus"_s), open);
         f.session().EditAccepted = true;
         CycleWindow w(f.window);
