@@ -14,6 +14,9 @@
 #include <QHeaderView>
 #include <QMenuBar>
 #include <QProgressBar>
+#include <QScreen>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -104,10 +107,23 @@ void CycleWindow::Load()
     resize(m_grid->ContentWidth(), menuBar()->sizeHint().height() + m_grid->horizontalHeader()->height() +
                                        VisibleRows * m_grid->verticalHeader()->defaultSectionSize() +
                                        2 * m_grid->frameWidth());
+    PlaceBesideMainWindow();
     show();
     m_grid->SelectCycle(shown);
     m_main.FinishProgress(ProgressLinger);
     m_main.SetStatusPanel(StatusPanel, u"Fertig und Bereit."_s);
+}
+
+void CycleWindow::PlaceBesideMainWindow()
+{
+    // Right of the main window where the screen has room, else left of it,
+    // else as far right as the screen allows: the list stays in view.
+    const QRect main = m_main.frameGeometry();
+    const QRect screen = m_main.screen()->availableGeometry();
+    int x = main.right() + 1;
+    if (x + width() > screen.right() + 1)
+        x = main.left() - width() >= screen.left() ? main.left() - width() : screen.right() + 1 - width();
+    move(std::max(x, screen.left()), std::max(main.top(), screen.top()));
 }
 
 void CycleWindow::UpdateDeleteCommand()

@@ -28,6 +28,7 @@ public:
     CycleGrid& Grid() { return *m_grid; }
     Session& CurrentSession();
     // zmnu_delete is on while there are at least two cycles.
+    void PlaceBesideMainWindow();
     void UpdateDeleteCommand();
 
 private:
