@@ -3,6 +3,7 @@
 #include "jetdialect.h"
 #include "jeterrors.h"
 #include "jetfunctions.h"
+#include "sqlshape.h"
 
 #include <QFileInfo>
 
@@ -38,19 +39,72 @@ sqlite3_stmt* PrepareOne(sqlite3* db, const QString& sql, DbError* error)
     return stmt;
 }
 
+DbError StepToEnd(sqlite3* db, sqlite3_stmt* stmt, const QString& sql)
+{
+    int rc;
+    while ((rc = sqlite3_step(stmt)) == SQLITE_ROW) {
+    }
+    return rc == SQLITE_DONE ? DbError() : JetErrorFromSqlite(db, rc, sql);
+}
+
 DbError RunPlain(sqlite3* db, const QString& sql)
 {
     DbError error;
     sqlite3_stmt* stmt = PrepareOne(db, sql, &error);
     if (stmt == nullptr)
         return error;
-    int rc;
-    while ((rc = sqlite3_step(stmt)) == SQLITE_ROW) {
-    }
-    if (rc != SQLITE_DONE)
-        error = JetErrorFromSqlite(db, rc, sql);
+    error = StepToEnd(db, stmt, sql);
     sqlite3_finalize(stmt);
     return error;
+}
+
+bool Bind(sqlite3_stmt* stmt, int index, const SqlLiteral& literal)
+{
+    if (literal.isText) {
+        const QByteArray utf8 = literal.value.toUtf8();
+        return sqlite3_bind_text(stmt, index, utf8.constData(), int(utf8.size()), SQLITE_TRANSIENT) == SQLITE_OK;
+    }
+    bool whole = false;
+    const qint64 number = literal.value.toLongLong(&whole);
+    if (whole)
+        return sqlite3_bind_int64(stmt, index, number) == SQLITE_OK;
+    bool ok = false;
+    const double real = literal.value.toDouble(&ok);
+    return ok && sqlite3_bind_double(stmt, index, real) == SQLITE_OK;
+}
+
+// Statements that change the tables: kept statements may no longer fit, and
+// errors of a statement must show when it is opened, not at its first row.
+bool ChangesSchema(const QString& sql)
+{
+    const QStringView start = QStringView(sql).trimmed().left(6);
+    return start.compare(u"CREATE", Qt::CaseInsensitive) == 0 || start.left(4).compare(u"DROP", Qt::CaseInsensitive) == 0 ||
+           start.left(5).compare(u"ALTER", Qt::CaseInsensitive) == 0;
+}
+
+// Shapes kept at most; a run of statements uses a handful.
+constexpr qsizetype MaxCachedStatements = 64;
+
+} // namespace
+
+struct CachedStatement {
+    explicit CachedStatement(sqlite3_stmt* prepared) : stmt(prepared) {}
+    sqlite3_stmt* stmt;
+    bool inUse = false;
+    // Let go by the database while a query still reads it: the query
+    // finalizes it when it closes.
+    bool dropped = false;
+};
+
+namespace {
+
+void GiveBack(CachedStatement& cached)
+{
+    sqlite3_reset(cached.stmt);
+    sqlite3_clear_bindings(cached.stmt);
+    cached.inUse = false;
+    if (cached.dropped)
+        sqlite3_finalize(cached.stmt);
 }
 
 } // namespace
@@ -58,7 +112,13 @@ DbError RunPlain(sqlite3* db, const QString& sql)
 // ---- Query ----
 
 Query::Query(Query&& other) noexcept
-    : m_stmt(std::exchange(other.m_stmt, nullptr)), m_db(other.m_db), m_error(std::move(other.m_error))
+    : m_stmt(std::exchange(other.m_stmt, nullptr)), m_db(other.m_db), m_cached(std::move(other.m_cached)),
+      m_error(std::move(other.m_error))
+{
+}
+
+Query::Query(std::shared_ptr<CachedStatement> cached, sqlite3* db)
+    : m_stmt(cached->stmt), m_db(db), m_cached(std::move(cached))
 {
 }
 
@@ -68,6 +128,7 @@ Query& Query::operator=(Query&& other) noexcept
         Close();
         m_stmt = std::exchange(other.m_stmt, nullptr);
         m_db = other.m_db;
+        m_cached = std::move(other.m_cached);
         m_error = std::move(other.m_error);
     }
     return *this;
@@ -77,7 +138,9 @@ Query::~Query() { Close(); }
 
 void Query::Close()
 {
-    if (m_stmt != nullptr)
+    if (m_cached)
+        GiveBack(*std::exchange(m_cached, nullptr));
+    else if (m_stmt != nullptr)
         sqlite3_finalize(m_stmt);
     m_stmt = nullptr;
 }
@@ -186,10 +249,67 @@ std::unique_ptr<Database> Database::Create(const QString& path, DbError* error)
     return OpenWithFlags(path, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, error);
 }
 
-Database::~Database() { sqlite3_close(m_db); }
+Database::~Database()
+{
+    DropStatements();
+    sqlite3_close(m_db);
+}
+
+std::shared_ptr<CachedStatement> Database::Borrow(const QString& jetSql)
+{
+    const std::optional<SqlShape> shape = ShapeOf(jetSql);
+    if (!shape)
+        return nullptr;
+    std::shared_ptr<CachedStatement> cached = m_statements.value(shape->text);
+    if (cached && cached->inUse)
+        return nullptr;
+    if (!cached) {
+        // A shape that doesn't prepare is left to the text itself, which
+        // then gives the error of the text as written.
+        const TranslatedSql translated = TranslateJetSql(shape->text);
+        DbError error;
+        sqlite3_stmt* stmt = translated.followUps.isEmpty() ? PrepareOne(m_db, translated.sql, &error) : nullptr;
+        if (stmt == nullptr)
+            return nullptr;
+        if (sqlite3_bind_parameter_count(stmt) != shape->literals.size()) {
+            sqlite3_finalize(stmt);
+            return nullptr;
+        }
+        if (m_statements.size() >= MaxCachedStatements)
+            DropStatements();
+        cached = std::make_shared<CachedStatement>(stmt);
+        m_statements.insert(shape->text, cached);
+    }
+    for (int i = 0; i < shape->literals.size(); ++i) {
+        if (!Bind(cached->stmt, i + 1, shape->literals[i])) {
+            sqlite3_clear_bindings(cached->stmt);
+            return nullptr;
+        }
+    }
+    cached->inUse = true;
+    return cached;
+}
+
+void Database::DropStatements()
+{
+    for (const std::shared_ptr<CachedStatement>& cached : std::as_const(m_statements)) {
+        if (cached->inUse)
+            cached->dropped = true;
+        else
+            sqlite3_finalize(cached->stmt);
+    }
+    m_statements.clear();
+}
 
 DbError Database::Execute(const QString& jetSql)
 {
+    if (const std::shared_ptr<CachedStatement> cached = Borrow(jetSql)) {
+        const DbError error = StepToEnd(m_db, cached->stmt, jetSql);
+        GiveBack(*cached);
+        return error;
+    }
+    if (ChangesSchema(jetSql))
+        DropStatements();
     const TranslatedSql translated = TranslateJetSql(jetSql);
     DbError error = RunPlain(m_db, translated.sql);
     for (const QString& followUp : translated.followUps) {
@@ -205,6 +325,8 @@ Query Database::Select(const QString& jetSql, DbError* error)
     DbError local;
     DbError& target = error ? *error : local;
     target = {};
+    if (std::shared_ptr<CachedStatement> cached = Borrow(jetSql))
+        return Query(std::move(cached), m_db);
     sqlite3_stmt* stmt = PrepareOne(m_db, TranslateJetSql(jetSql).sql, &target);
     return stmt ? Query(stmt, m_db) : Query();
 }

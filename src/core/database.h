@@ -2,6 +2,7 @@
 // The collection and cycle files: SQLite answering in the dialect and with the
 // error numbers of the Jet engine the program's SQL texts were written for.
 
+#include <QHash>
 #include <QString>
 #include <QVariant>
 
@@ -11,6 +12,9 @@ struct sqlite3;
 struct sqlite3_stmt;
 
 namespace heft {
+
+// A prepared statement the database keeps for statements of the same shape.
+struct CachedStatement;
 
 // An engine error as the program sees it: a Jet error number (0 = none) and
 // a Jet-style English description.
@@ -48,8 +52,12 @@ public:
 private:
     friend class Database;
     Query(sqlite3_stmt* stmt, sqlite3* db) : m_stmt(stmt), m_db(db) {}
+    Query(std::shared_ptr<CachedStatement> cached, sqlite3* db);
     sqlite3_stmt* m_stmt = nullptr;
     sqlite3* m_db = nullptr;
+    // Set when the statement is the database's kept one: closing hands it
+    // back instead of finalizing it.
+    std::shared_ptr<CachedStatement> m_cached;
     DbError m_error;
 };
 
@@ -83,8 +91,14 @@ public:
 private:
     Database(sqlite3* db, QString path) : m_db(db), m_path(std::move(path)) {}
     static std::unique_ptr<Database> OpenWithFlags(const QString& path, int flags, DbError* error);
+    // The kept statement of the text's shape with the text's values bound,
+    // or nullptr when the text has no shape (or its statement is busy):
+    // the text is then prepared as it stands.
+    std::shared_ptr<CachedStatement> Borrow(const QString& jetSql);
+    void DropStatements();
     sqlite3* m_db = nullptr;
     QString m_path;
+    QHash<QString, std::shared_ptr<CachedStatement>> m_statements;
 };
 
 } // namespace heft

@@ -19,28 +19,43 @@ QString ReportLine(int line, const ListRecord& r) { return ListReportLine(line, 
 QString ReportLine(int line, const CycleRecord& r) { return CycleReportLine(line, r); }
 QString ReportLine(int line, const DetailsRecord& r) { return DetailsReportLine(line, r); }
 
-// One record's statements go to the file together: a commit per statement
-// would have the import mostly wait for the file. A program killed during
-// an import loses at most the record it was writing, and that one whole;
-// everything before it is in the file. A savepoint, so that a caller's own
+// The records go to the file in batches: with a commit per statement, or
+// even per record, an import would mostly wait for the file, since every
+// commit writes each page it touched once more. A program killed during an
+// import loses the records of the running batch, at most the last hundred
+// lines before it; everything before them is in the file. Esc and the end
+// of the file commit what was done. Savepoints, so that a caller's own
 // transaction (the benchmark's) stays one.
-class RecordChange {
+class Batches {
 public:
-    explicit RecordChange(Database* db) : m_db(db)
+    explicit Batches(Database* db) : m_db(db) { Begin(); }
+    ~Batches() { End(); }
+    Batches(const Batches&) = delete;
+    Batches& operator=(const Batches&) = delete;
+
+    void RecordDone()
     {
-        if (m_db)
-            m_db->Execute(u"SAVEPOINT ImportRecord"_s);
+        if (++m_records % RecordsPerCommit != 0)
+            return;
+        End();
+        Begin();
     }
-    ~RecordChange()
-    {
-        if (m_db)
-            m_db->Execute(u"RELEASE ImportRecord"_s);
-    }
-    RecordChange(const RecordChange&) = delete;
-    RecordChange& operator=(const RecordChange&) = delete;
 
 private:
+    void Begin()
+    {
+        if (m_db)
+            m_db->Execute(u"SAVEPOINT ImportBatch"_s);
+    }
+    void End()
+    {
+        if (m_db)
+            m_db->Execute(u"RELEASE ImportBatch"_s);
+    }
+
+    static constexpr int RecordsPerCommit = 100;
     Database* m_db;
+    int m_records = 0;
 };
 
 struct Outcome {
@@ -56,6 +71,7 @@ Outcome ReadRecords(DatInputFile& file, Reader& reader, Database* db, ImportObse
                     Write write)
 {
     Outcome outcome;
+    Batches batches(db);
     int line = 0;
     while (!file.AtEnd()) {
         const auto& record = reader.Read(file.ReadLine());
@@ -63,13 +79,14 @@ Outcome ReadRecords(DatInputFile& file, Reader& reader, Database* db, ImportObse
         if (!record.IsGood()) {
             ++outcome.errors;
             texts.fehler += u"DatFormat "_s + report;
-        } else if (const RecordChange change(db); write(record) == 0) {
+        } else if (write(record) == 0) {
             ++outcome.ok;
             texts.bericht += report;
         } else {
             ++outcome.errors;
             texts.fehler += u"DB-InsUpd "_s + report;
         }
+        batches.RecordDone();
         if (!observer.LineDone(file.Position()))
             break;
     }
