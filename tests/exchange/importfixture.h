@@ -75,9 +75,10 @@ struct ImportFixture {
     }
 
     // The rows of a query, fields joined by "|", rows by "/".
-    QString Rows(const QString& sql)
+    QString Rows(const QString& sql) { return Rows(*collection.session.CollectionDb, sql); }
+    static QString Rows(Database& db, const QString& sql)
     {
-        Query query = collection.session.CollectionDb->Select(sql);
+        Query query = db.Select(sql);
         QStringList rows;
         while (query.Next()) {
             QStringList fields;

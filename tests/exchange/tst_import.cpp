@@ -207,15 +207,7 @@ private Q_SLOTS:
         f.import.ImportDatFile(path, static_cast<ImportMode>(mode));
         QCOMPARE(f.import.Refused(), 0);
         QCOMPARE(f.import.Texts().caption, u"Bericht über Valdorin Zyklen Import"_s);
-        Query query = session.CycleDb->Select(u"SELECT * FROM ZyklusListe ORDER BY NrVon;"_s);
-        QStringList rows;
-        while (query.Next()) {
-            QStringList fields;
-            for (int i = 0; i < query.ColumnCount(); ++i)
-                fields << query.Text(i);
-            rows << fields.join(u'|');
-        }
-        QCOMPARE(rows.join(u'/'), stored);
+        QCOMPARE(ImportFixture::Rows(*session.CycleDb, u"SELECT * FROM ZyklusListe ORDER BY NrVon;"_s), stored);
     }
 
     void reports_data()
