@@ -13,15 +13,15 @@ namespace {
 
 // Field sizes of the base tables. The editor's limits are smaller; these
 // leave room for what the import and older files bring.
-QStringList BaseTableStatements()
-{
+QStringList BaseTableStatements() {
     QStringList statements;
     statements << u"CREATE TABLE HEFTLIST (Nr INTEGER CONSTRAINT Nummer UNIQUE, "_s +
                       TextColumnSql(u"HEFTLIST"_s, u"Autor"_s, 50, false) + u", "_s +
                       TextColumnSql(u"HEFTLIST"_s, u"Titel"_s, 100, false) + u", "_s +
                       ByteColumnSql(u"HEFTLIST"_s, u"Auflage"_s) + u", "_s +
-                      TextColumnSql(u"HEFTLIST"_s, u"Zyklus"_s, 10, false) + u", "_s + YesNoColumnSql(u"GL"_s) +
-                      u", "_s + TextColumnSql(u"HEFTLIST"_s, u"Bemerkung"_s, 255, true) + u")"_s;
+                      TextColumnSql(u"HEFTLIST"_s, u"Zyklus"_s, 10, false) + u", "_s +
+                      YesNoColumnSql(u"GL"_s) + u", "_s +
+                      TextColumnSql(u"HEFTLIST"_s, u"Bemerkung"_s, 255, true) + u")"_s;
     statements << YesNoTriggersSql(u"HEFTLIST"_s, u"GL"_s);
 
     QStringList details = {u"Nr INTEGER"_s, TextColumnSql(u"Details"_s, u"Ersterscheinung"_s, 50, true),
@@ -40,8 +40,7 @@ QStringList BaseTableStatements()
     return statements;
 }
 
-DbError RunAll(Database& db, const QStringList& statements)
-{
+DbError RunAll(Database& db, const QStringList& statements) {
     for (const QString& sql : statements)
         if (DbError error = db.Execute(sql))
             return error;
@@ -50,8 +49,7 @@ DbError RunAll(Database& db, const QStringList& statements)
 
 } // namespace
 
-const QStringList& UpgradeStatements()
-{
+const QStringList& UpgradeStatements() {
     static const QStringList statements = {
         u"CREATE TABLE Gestaltung (Nr LONG, TiBiZeichner TEXT(64), IlluZeichner TEXT(64), RZ BIT, "
         "RiZeObjekt TEXT(96), RiZeZeichner TEXT(64), CONSTRAINT Nummer UNIQUE(Nr));"_s,
@@ -65,8 +63,7 @@ const QStringList& UpgradeStatements()
     return statements;
 }
 
-void UpgradeSchema(Session& session)
-{
+void UpgradeSchema(Session& session) {
     for (const QString& sql : UpgradeStatements()) {
         session.CurrentSql = sql;
         ExecuteSqlQuiet(session);
@@ -74,8 +71,7 @@ void UpgradeSchema(Session& session)
 }
 
 std::unique_ptr<Database> CreateCollectionFile(const QString& path, const QString& seriesName,
-                                               const QString& listKind, DbError* error)
-{
+                                               const QString& listKind, DbError* error) {
     auto db = Database::Create(path, error);
     if (!db)
         return nullptr;
@@ -97,13 +93,17 @@ std::unique_ptr<Database> CreateCollectionFile(const QString& path, const QStrin
     return db;
 }
 
-std::unique_ptr<Database> CreateCycleFile(const QString& path, DbError* error)
-{
+std::unique_ptr<Database> CreateCycleFile(const QString& path, DbError* error) {
     auto db = Database::Create(path, error);
     if (!db)
         return nullptr;
-    if ((*error = db->Execute(u"CREATE TABLE ZyklusListe (Zyklus TEXT(8), NrVon LONG, NrBis LONG, ZeitVon LONG, "
-                              "ZeitBis LONG, Bezeichnung TEXT(50), Zyklusbereich TEXT(50));"_s)))
+    if ((*error =
+             db->Execute(u"CREATE TABLE ZyklusListe (Zyklus TEXT(8), NrVon LONG, NrBis LONG, ZeitVon LONG, "
+                         "ZeitBis LONG, Bezeichnung TEXT(50), Zyklusbereich TEXT(50));"_s)))
+        return nullptr;
+    // The roman numeral is the cycle's key: an import that brings a cycle
+    // again is refused instead of listing it twice.
+    if ((*error = db->Execute(u"CREATE UNIQUE INDEX PrimaryKey ON ZyklusListe (Zyklus);"_s)))
         return nullptr;
     return db;
 }

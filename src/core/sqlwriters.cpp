@@ -12,24 +12,22 @@ namespace heft {
 
 namespace {
 
-int Run(Session& session, const QString& sql)
-{
+int Run(Session& session, const QString& sql) {
     session.CurrentSql = sql;
     return ExecuteSql(session);
 }
 
 // The batch writers handle results themselves; ExecuteSql knows them by the
 // caption of the active window.
-bool IsBatchWindowActive(const Session& session)
-{
+bool IsBatchWindowActive(const Session& session) {
     if (!session.ActiveCaption)
         return false;
     const QString caption = session.ActiveCaption();
-    return caption == u"Daten Import" || caption.left(10) == u"Detailinfo" || caption.left(13) == u"Spalte füllen";
+    return caption == u"Daten Import" || caption.left(10) == u"Detailinfo" ||
+           caption.left(13) == u"Spalte füllen";
 }
 
-int AnswerDuplicateKey(Session& session)
-{
+int AnswerDuplicateKey(Session& session) {
     EntryRecord& entry = session.Entry;
     if (session.EditMode && session.OldNr == entry.Nr)
         return ExecuteSameRecord;
@@ -39,12 +37,12 @@ int AnswerDuplicateKey(Session& session)
     QString titel;
     if (session.SharedRecordset.Next())
         titel = session.SharedRecordset.Text(session.SharedRecordset.ColumnIndex(u"titel"_s));
-    const Answer answer = session.prompter->Ask(
-        {u"Vorhandenen Eintrag überschreiben"_s,
-         u"Der Eintrag Nummer %1:\n\n'%2'\n\nist bereits in der Datenbank vorhanden.\nMöchtest Du den Datensatz "
-         "ändern?"_s.arg(entry.Nr)
-             .arg(titel),
-         MessageIcon::Question, MessageButtons::YesNo});
+    const Answer answer = session.prompter->Ask({u"Vorhandenen Eintrag überschreiben"_s,
+                                                 u"Der Eintrag Nummer %1:\n\n'%2'\n\nist bereits in der "
+                                                 u"Datenbank vorhanden.\nMöchtest Du den Datensatz "
+                                                 "ändern?"_s.arg(entry.Nr)
+                                                     .arg(titel),
+                                                 MessageIcon::Question, MessageButtons::YesNo});
     session.SharedRecordset.Close();
     if (answer != Answer::Yes)
         return ExecuteDeclined;
@@ -63,95 +61,83 @@ int AnswerDuplicateKey(Session& session)
 
 } // namespace
 
-DbError OpenCollectionDatabase(Session& session, const QString& path)
-{
+DbError OpenCollectionDatabase(Session& session, const QString& path) {
     DbError error;
     session.CollectionDb = Database::Open(path, &error);
     return error;
 }
 
-void BuildSelectEntrySql(Session& session, int nr)
-{
+void BuildSelectEntrySql(Session& session, int nr) {
     session.CurrentSql = u"SELECT * FROM HEFTLIST WHERE Nr=%1;"_s.arg(nr);
 }
 
-void BuildDeleteEntrySql(Session& session, int nr)
-{
+void BuildDeleteEntrySql(Session& session, int nr) {
     session.CurrentSql = u"DELETE FROM HEFTLIST WHERE Nr=%1;"_s.arg(nr);
 }
 
-void BuildInsertEntrySql(Session& session)
-{
+void BuildInsertEntrySql(Session& session) {
     const EntryRecord& e = session.Entry;
-    session.CurrentSql = u"INSERT INTO HEFTLIST (Nr, Autor, Titel, Auflage, Zyklus, GL, Bemerkung) VALUES (%1, "
-                         "'%2', '%3', %4, '%5', %6, '%7');"_s.arg(e.Nr)
-                             .arg(e.Autor, e.Titel)
-                             .arg(e.Auflage)
-                             .arg(e.Zyklus, e.GL ? u"255"_s : u"0"_s, e.Bemerkung);
+    session.CurrentSql =
+        u"INSERT INTO HEFTLIST (Nr, Autor, Titel, Auflage, Zyklus, GL, Bemerkung) VALUES (%1, "
+        "'%2', '%3', %4, '%5', %6, '%7');"_s.arg(QString::number(e.Nr), e.Autor, e.Titel,
+                                                 QString::number(e.Auflage), e.Zyklus,
+                                                 e.GL ? u"255"_s : u"0"_s, e.Bemerkung);
 }
 
-void BuildUpdateEntrySql(Session& session)
-{
+void BuildUpdateEntrySql(Session& session) {
     const EntryRecord& e = session.Entry;
-    session.CurrentSql = u"UPDATE HEFTLIST SET Nr=%1, Autor='%2', Titel='%3', Zyklus='%4', Auflage=%5, GL=%6, "
-                         "Bemerkung='%7' WHERE Nr=%1;"_s.arg(e.Nr)
-                             .arg(e.Autor, e.Titel, e.Zyklus)
-                             .arg(e.Auflage)
-                             .arg(e.GL ? u"255"_s : u"0"_s, e.Bemerkung);
+    session.CurrentSql =
+        u"UPDATE HEFTLIST SET Nr=%1, Autor='%2', Titel='%3', Zyklus='%4', Auflage=%5, GL=%6, "
+        "Bemerkung='%7' WHERE Nr=%1;"_s.arg(QString::number(e.Nr), e.Autor, e.Titel, e.Zyklus,
+                                            QString::number(e.Auflage), e.GL ? u"255"_s : u"0"_s,
+                                            e.Bemerkung);
 }
 
-int InsertEntry(Session& session)
-{
+int InsertEntry(Session& session) {
     BuildInsertEntrySql(session);
     return ExecuteSql(session);
 }
 
-int UpdateEntry(Session& session)
-{
+int UpdateEntry(Session& session) {
     BuildUpdateEntrySql(session);
     return ExecuteSql(session);
 }
 
-int DeleteEntry(Session& session, int nr)
-{
+int DeleteEntry(Session& session, int nr) {
     BuildDeleteEntrySql(session, nr);
     return ExecuteSql(session);
 }
 
-int DeleteDetails(Session& session, int nr) { return Run(session, u"DELETE FROM Details WHERE Nr=%1;"_s.arg(nr)); }
+int DeleteDetails(Session& session, int nr) {
+    return Run(session, u"DELETE FROM Details WHERE Nr=%1;"_s.arg(nr));
+}
 
-void DeleteDependents(Session& session, int nr)
-{
+void DeleteDependents(Session& session, int nr) {
     for (const char16_t* table : {u"Gestaltung", u"Status", u"Links"})
         Run(session, u"DELETE FROM %1 WHERE Nr=%2;"_s.arg(QStringView(table)).arg(nr));
 }
 
-int DeleteEntryCascade(Session& session, int nr)
-{
+int DeleteEntryCascade(Session& session, int nr) {
     const int result = DeleteEntry(session, nr);
     DeleteDetails(session, nr);
     DeleteDependents(session, nr);
     return result;
 }
 
-int MoveDetails(Session& session, int oldNr, int newNr)
-{
+int MoveDetails(Session& session, int oldNr, int newNr) {
     return Run(session, u"UPDATE Details SET Nr=%1 WHERE Nr=%2;"_s.arg(newNr).arg(oldNr));
 }
 
-void MoveDependents(Session& session, int oldNr, int newNr)
-{
+void MoveDependents(Session& session, int oldNr, int newNr) {
     for (const char16_t* table : {u"Gestaltung", u"Status", u"Links"})
         Run(session, u"UPDATE %1 SET Nr=%2 WHERE Nr=%3;"_s.arg(QStringView(table)).arg(newNr).arg(oldNr));
 }
 
-QString LastChangeStamp(const QDateTime& moment)
-{
+QString LastChangeStamp(const QDateTime& moment) {
     return moment.toString(u"yyyy-MM-dd"_s) + u" um "_s + moment.toString(u"hh:mm:ss"_s);
 }
 
-void StampLastChange(Session& session, int nr)
-{
+void StampLastChange(Session& session, int nr) {
     session.CurrentSql = u"DELETE FROM Status WHERE Nr=%1 AND ENum=1;"_s.arg(nr);
     ExecuteSqlQuiet(session);
     session.CurrentSql = u"INSERT INTO Status (Nr, ENum, StatusWert) VALUES (%1, 1, '%2');"_s.arg(nr).arg(
@@ -159,14 +145,12 @@ void StampLastChange(Session& session, int nr)
     ExecuteSqlQuiet(session);
 }
 
-void GetNrRange(Session& session, const QString& tail, int& lowest, int& highest)
-{
+void GetNrRange(Session& session, const QString& tail, int& lowest, int& highest) {
     lowest = session.CollectionDb->SelectValue(u"SELECT MIN(Nr) FROM HEFTLIST "_s + tail).toInt();
     highest = session.CollectionDb->SelectValue(u"SELECT MAX(Nr) FROM HEFTLIST "_s + tail).toInt();
 }
 
-QString FieldOfZeroLengthError(const QString& description)
-{
+QString FieldOfZeroLengthError(const QString& description) {
     // Behind the first apostrophe, without the table prefix "HEFTLIST.",
     // up to and including the next apostrophe.
     const qsizetype quote = description.indexOf(u'\'');
@@ -177,8 +161,7 @@ QString FieldOfZeroLengthError(const QString& description)
     return close < 0 ? rest : rest.left(close + 1);
 }
 
-int ExecuteSql(Session& session)
-{
+int ExecuteSql(Session& session) {
     const DbError error = session.CollectionDb->Execute(session.CurrentSql);
     if (!error)
         return ExecuteDone;
@@ -206,17 +189,17 @@ int ExecuteSql(Session& session)
     }
 }
 
-int ExecuteSqlQuiet(Session& session) { return session.CollectionDb->Execute(session.CurrentSql).number; }
+int ExecuteSqlQuiet(Session& session) {
+    return session.CollectionDb->Execute(session.CurrentSql).number;
+}
 
-int ExecuteCycleSql(Session& session)
-{
+int ExecuteCycleSql(Session& session) {
     if (!session.CycleDb)
         return JetFileNotFound;
     return session.CycleDb->Execute(session.CurrentSql).number;
 }
 
-void CloseDatabases(Session& session)
-{
+void CloseDatabases(Session& session) {
     session.SharedRecordset.Close();
     session.CollectionDb.reset();
     session.CycleDb.reset();

@@ -127,8 +127,6 @@ private Q_SLOTS:
         QTest::addColumn<int>("shown");
         QTest::newRow("cycle of the entry") << u"II"_s << Cycles{} << 1;
         QTest::newRow("cycle not in the list") << u"XX"_s << Cycles{} << 0;
-        QTest::newRow("key twice: the last")
-            << u"II"_s << Cycles{{u"II"_s, u"151"_s, u"160"_s, u"1"_s, u"2"_s, u"Doppelt"_s, u""_s}} << 3;
     }
 
     void fill()

@@ -15,8 +15,7 @@
 namespace heft::test {
 
 // "a";"b"; ... as the exchange files write fields.
-inline QString Fields(const QStringList& values)
-{
+inline QString Fields(const QStringList& values) {
     QString line;
     for (const QString& value : values)
         line += u'"' + value + QStringLiteral("\";");
@@ -26,8 +25,7 @@ inline QString Fields(const QStringList& values)
 // A details line: Nr, date, subtitle, Person1 (the other eight empty),
 // content, the five design fields, then `rest` as it stands.
 inline QString DetailsFields(const QString& nr, const QString& date, const QString& untertitel,
-                             const QString& person1, const QString& inhalt, const QStringList& design)
-{
+                             const QString& person1, const QString& inhalt, const QStringList& design) {
     QStringList values{nr, date, untertitel, person1};
     for (int i = 0; i < 8; ++i)
         values << QString();
@@ -36,34 +34,39 @@ inline QString DetailsFields(const QString& nr, const QString& date, const QStri
 }
 
 struct ImportFixture {
-    ImportFixture()
-    {
-        collection.Add({TestEntry(1, QStringLiteral("Ada Quell"), QStringLiteral("Nebelhafen"), 1,
-                                  QStringLiteral("II"), true, QStringLiteral("alt")),
-                        TestEntry(2, QStringLiteral("Bert Lohmann"), QStringLiteral("Glutwüste"), 2)});
-        collection.Exec(QStringLiteral("INSERT INTO Details (Nr, Ersterscheinung, Untertitel, Person1, Inhalt) "
-                                       "VALUES (1, '1999-01-02', 'Alter Untertitel', 'Olga', 'Alter Inhalt');"));
-        collection.Exec(QStringLiteral("INSERT INTO Gestaltung VALUES (1, 'Tibi', 'Illu', 0, 'Objekt', 'Zeichner');"));
-        collection.Exec(QStringLiteral("INSERT INTO Status VALUES (1, 1, 'alt eins');"));
-        collection.Exec(QStringLiteral("INSERT INTO Status VALUES (1, 5, '0000002');"));
-        collection.Exec(QStringLiteral("INSERT INTO Links VALUES (1, 1, 7, 'Alter Link', 'Valdorin');"));
-        Session& session = collection.session;
-        session.ActiveCaption = [] { return ImportCaption(); };
+    // Without entries the collection is empty, as a new one is.
+    explicit ImportFixture(bool withEntries = true) {
+        if (withEntries)
+            AddEntries();
+        collection.session.ActiveCaption = [] { return ImportCaption(); };
         LoadList();
     }
 
-    void LoadList()
-    {
+    void AddEntries() {
+        collection.Add({TestEntry(1, QStringLiteral("Ada Quell"), QStringLiteral("Nebelhafen"), 1,
+                                  QStringLiteral("II"), true, QStringLiteral("alt")),
+                        TestEntry(2, QStringLiteral("Bert Lohmann"), QStringLiteral("Glutwüste"), 2)});
+        collection.Exec(
+            QStringLiteral("INSERT INTO Details (Nr, Ersterscheinung, Untertitel, Person1, Inhalt) "
+                           "VALUES (1, '1999-01-02', 'Alter Untertitel', 'Olga', 'Alter Inhalt');"));
+        collection.Exec(
+            QStringLiteral("INSERT INTO Gestaltung VALUES (1, 'Tibi', 'Illu', 0, 'Objekt', 'Zeichner');"));
+        collection.Exec(QStringLiteral("INSERT INTO Status VALUES (1, 1, 'alt eins');"));
+        collection.Exec(QStringLiteral("INSERT INTO Status VALUES (1, 5, '0000002');"));
+        collection.Exec(QStringLiteral("INSERT INTO Links VALUES (1, 1, 7, 'Alter Link', 'Valdorin');"));
+    }
+
+    void LoadList() {
         Session& session = collection.session;
-        session.SharedRecordset = session.CollectionDb->Select(QStringLiteral("SELECT * FROM HEFTLIST ORDER BY Nr;"));
+        session.SharedRecordset =
+            session.CollectionDb->Select(QStringLiteral("SELECT * FROM HEFTLIST ORDER BY Nr;"));
         list.SetupGridColumns();
         list.FillGrid(session);
         GetNrRange(session, QStringLiteral(";"), list.LowestNr, list.HighestNr);
     }
 
     // Writes header and lines with CR LF in Windows-1252; returns the path.
-    QString Write(const QString& name, const QString& header, const QStringList& lines) const
-    {
+    QString Write(const QString& name, const QString& header, const QStringList& lines) const {
         const QString path = collection.dir.filePath(name);
         QFile file(path);
         file.open(QIODevice::WriteOnly);
@@ -76,8 +79,7 @@ struct ImportFixture {
 
     // The rows of a query, fields joined by "|", rows by "/".
     QString Rows(const QString& sql) { return Rows(*collection.session.CollectionDb, sql); }
-    static QString Rows(Database& db, const QString& sql)
-    {
+    static QString Rows(Database& db, const QString& sql) {
         Query query = db.Select(sql);
         QStringList rows;
         while (query.Next()) {

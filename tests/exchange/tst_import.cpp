@@ -179,13 +179,17 @@ private Q_SLOTS:
         QTest::addColumn<int>("mode");
         QTest::addColumn<QString>("line");
         QTest::addColumn<QString>("stored");
+        QTest::addColumn<int>("refused");
 
         QTest::newRow("insert") << 0 << Fields({u"III"_s, u"20"_s, u"29"_s, u"1990"_s, u"1991"_s, u"Die Flut"_s, u"B"_s})
-                                << u"I|1|9|1980|1981|Anfang|A/III|20|29|1990|1991|Die Flut|B"_s;
+                                << u"I|1|9|1980|1981|Anfang|A/III|20|29|1990|1991|Die Flut|B"_s << 0;
+        QTest::newRow("insert of a stored cycle")
+            << 0 << Fields({u"I"_s, u"20"_s, u"29"_s, u"1990"_s, u"1991"_s, u"Doppelt"_s, u""_s})
+            << u"I|1|9|1980|1981|Anfang|A"_s << 1;
         QTest::newRow("all columns") << 1 << Fields({u"I"_s, u"2"_s, u"8"_s, u"1982"_s, u"1983"_s, u"Neu"_s, u""_s})
-                                     << u"I|2|8|1982|1983|Neu|"_s;
+                                     << u"I|2|8|1982|1983|Neu|"_s << 0;
         QTest::newRow("only imported") << 2 << Fields({u"I"_s, u""_s, u"12"_s, u""_s, u""_s, u"O'Neu"_s, u""_s})
-                                       << u"I|1|12|1980|1981|O'Neu|A"_s;
+                                       << u"I|1|12|1980|1981|O'Neu|A"_s << 0;
     }
 
     void cycleFile()
@@ -193,6 +197,7 @@ private Q_SLOTS:
         QFETCH(int, mode);
         QFETCH(QString, line);
         QFETCH(QString, stored);
+        QFETCH(int, refused);
         ImportFixture f;
         Session& session = f.collection.session;
         const QString path = f.Write(u"Valdorin-Zyklus.dat"_s, u"[Valdorin Zyklen]"_s, {line});
@@ -205,7 +210,7 @@ private Q_SLOTS:
         QVERIFY(session.CycleDb);
         QVERIFY(!session.CycleDb->Execute(u"INSERT INTO ZyklusListe VALUES ('I', 1, 9, 1980, 1981, 'Anfang', 'A');"_s));
         f.import.ImportDatFile(path, static_cast<ImportMode>(mode));
-        QCOMPARE(f.import.Refused(), 0);
+        QCOMPARE(f.import.Refused(), refused);
         QCOMPARE(f.import.Texts().caption, u"Bericht über Valdorin Zyklen Import"_s);
         QCOMPARE(ImportFixture::Rows(*session.CycleDb, u"SELECT * FROM ZyklusListe ORDER BY NrVon;"_s), stored);
     }
