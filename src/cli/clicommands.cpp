@@ -97,11 +97,8 @@ int Sql(Session& session, const QString& statement, QTextStream& out)
 
 int Filter(Session& session, const QStringList& words, QTextStream& out, QTextStream& err)
 {
-    QList<FilterCriterion> rows;
     FilterOutcome outcome;
-    if (const int code = ParseFilterWords(session, words, rows, err))
-        return code;
-    if (const int code = GenerateFilter(session, rows, outcome, err))
+    if (const int code = FilterFromWords(session, words, outcome, err))
         return code;
     out << outcome.where << u'\n' << outcome.text << u'\n';
     DbError error;

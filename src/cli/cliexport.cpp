@@ -67,11 +67,8 @@ int ExportCommand(Session& session, const QStringList& arguments, QTextStream& o
     ExportList list;
     QString sql = u"SELECT * FROM HEFTLIST ORDER BY Nr;"_s;
     if (!words.isEmpty()) {
-        QList<FilterCriterion> rows;
         FilterOutcome outcome;
-        if (const int code = ParseFilterWords(session, words, rows, err))
-            return code;
-        if (const int code = GenerateFilter(session, rows, outcome, err))
+        if (const int code = FilterFromWords(session, words, outcome, err))
             return code;
         sql = outcome.sql;
         list.filtered = true;

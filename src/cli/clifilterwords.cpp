@@ -116,4 +116,12 @@ int GenerateFilter(Session& session, const QList<FilterCriterion>& rows, FilterO
     return 1;
 }
 
+int FilterFromWords(Session& session, const QStringList& words, FilterOutcome& outcome, QTextStream& err)
+{
+    QList<FilterCriterion> rows;
+    if (const int code = ParseFilterWords(session, words, rows, err))
+        return code;
+    return GenerateFilter(session, rows, outcome, err);
+}
+
 } // namespace heft

@@ -21,5 +21,7 @@ const QString& NothingFoundText();
 int ParseFilterWords(Session& session, const QStringList& words, QList<FilterCriterion>& rows, QTextStream& err);
 // The statement of the rows, or the exit code after telling why there is none.
 int GenerateFilter(Session& session, const QList<FilterCriterion>& rows, FilterOutcome& outcome, QTextStream& err);
+// Both steps at once, for the commands that have nothing to check between.
+int FilterFromWords(Session& session, const QStringList& words, FilterOutcome& outcome, QTextStream& err);
 
 } // namespace heft

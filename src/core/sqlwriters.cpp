@@ -12,11 +12,6 @@ namespace heft {
 
 namespace {
 
-int Run(Session& session, const QString& sql) {
-    session.CurrentSql = sql;
-    return ExecuteSql(session);
-}
-
 // The batch writers handle results themselves; ExecuteSql knows them by the
 // caption of the active window.
 bool IsBatchWindowActive(const Session& session) {
@@ -109,12 +104,12 @@ int DeleteEntry(Session& session, int nr) {
 }
 
 int DeleteDetails(Session& session, int nr) {
-    return Run(session, u"DELETE FROM Details WHERE Nr=%1;"_s.arg(nr));
+    return ExecuteSql(session, u"DELETE FROM Details WHERE Nr=%1;"_s.arg(nr));
 }
 
 void DeleteDependents(Session& session, int nr) {
     for (const char16_t* table : {u"Gestaltung", u"Status", u"Links"})
-        Run(session, u"DELETE FROM %1 WHERE Nr=%2;"_s.arg(QStringView(table)).arg(nr));
+        ExecuteSql(session, u"DELETE FROM %1 WHERE Nr=%2;"_s.arg(QStringView(table)).arg(nr));
 }
 
 int DeleteEntryCascade(Session& session, int nr) {
@@ -125,12 +120,12 @@ int DeleteEntryCascade(Session& session, int nr) {
 }
 
 int MoveDetails(Session& session, int oldNr, int newNr) {
-    return Run(session, u"UPDATE Details SET Nr=%1 WHERE Nr=%2;"_s.arg(newNr).arg(oldNr));
+    return ExecuteSql(session, u"UPDATE Details SET Nr=%1 WHERE Nr=%2;"_s.arg(newNr).arg(oldNr));
 }
 
 void MoveDependents(Session& session, int oldNr, int newNr) {
     for (const char16_t* table : {u"Gestaltung", u"Status", u"Links"})
-        Run(session, u"UPDATE %1 SET Nr=%2 WHERE Nr=%3;"_s.arg(QStringView(table)).arg(newNr).arg(oldNr));
+        ExecuteSql(session, u"UPDATE %1 SET Nr=%2 WHERE Nr=%3;"_s.arg(QStringView(table)).arg(newNr).arg(oldNr));
 }
 
 QString LastChangeStamp(const QDateTime& moment) {
@@ -187,6 +182,12 @@ int ExecuteSql(Session& session) {
         session.WriteLog(error.number, error.description);
         return error.number;
     }
+}
+
+int ExecuteSql(Session& session, const QString& sql)
+{
+    session.CurrentSql = sql;
+    return ExecuteSql(session);
 }
 
 int ExecuteSqlQuiet(Session& session) {

@@ -45,6 +45,8 @@ void GetNrRange(Session& session, const QString& tail, int& lowest, int& highest
 // Runs CurrentSql on the collection. Talks to the user (overwrite question,
 // empty-field message) unless a batch window is active; see the .cpp.
 int ExecuteSql(Session& session);
+// ExecuteSql with the statement given: it becomes CurrentSql first.
+int ExecuteSql(Session& session, const QString& sql);
 // Runs CurrentSql and returns the error number; shows and logs nothing.
 int ExecuteSqlQuiet(Session& session);
 // The same on the cycle file; an absent cycle file is an error too.

@@ -12,12 +12,6 @@ namespace heft {
 
 namespace {
 
-int Run(Session& session, const QString& sql)
-{
-    session.CurrentSql = sql;
-    return ExecuteSql(session);
-}
-
 QString Quoted(const QString& value) { return u'\'' + value + u'\''; }
 
 // The values of one record as they go into the statements: texts with their
@@ -99,20 +93,20 @@ template <typename Write> void ForEachLink(const DetailsRecord& r, Write write)
 int InsertNew(Session& session, const DetailsRecord& r)
 {
     const DetailsValues v(r);
-    if (const int result = Run(session, InsertDetailsSql(v)))
+    if (const int result = ExecuteSql(session, InsertDetailsSql(v)))
         return result;
-    if (const int result = Run(session, InsertGestaltungSql(v)))
+    if (const int result = ExecuteSql(session, InsertGestaltungSql(v)))
         return result;
     // Attributes and links the entry has already stay; the results of
     // these statements don't count.
     if (r.HasStatus) {
         for (int n = 1; n <= StatusCount; ++n)
             if (!HasRow(session, u"Status"_s, v.nr, n))
-                Run(session, InsertStatusSql(v.nr, n, r.Status[static_cast<size_t>(n - 1)]));
+                ExecuteSql(session, InsertStatusSql(v.nr, n, r.Status[static_cast<size_t>(n - 1)]));
     }
     ForEachLink(r, [&](int n, const DatLink& link) {
         if (!HasRow(session, u"Links"_s, v.nr, n))
-            Run(session, InsertLinkSql(v.nr, n, link));
+            ExecuteSql(session, InsertLinkSql(v.nr, n, link));
     });
     return 0;
 }
@@ -120,20 +114,20 @@ int InsertNew(Session& session, const DetailsRecord& r)
 void ReplaceAll(Session& session, const DetailsRecord& r, int& sum)
 {
     const DetailsValues v(r);
-    if (Run(session, InsertDetailsSql(v)) != 0)
-        sum = Run(session, UpdateDetailsSql(v));
-    if (Run(session, InsertGestaltungSql(v)) != 0)
-        sum += Run(session, u"UPDATE Gestaltung SET Nr="_s + v.nr + u", TiBiZeichner="_s + Quoted(v.tibi) +
+    if (ExecuteSql(session, InsertDetailsSql(v)) != 0)
+        sum = ExecuteSql(session, UpdateDetailsSql(v));
+    if (ExecuteSql(session, InsertGestaltungSql(v)) != 0)
+        sum += ExecuteSql(session, u"UPDATE Gestaltung SET Nr="_s + v.nr + u", TiBiZeichner="_s + Quoted(v.tibi) +
                                 u", IlluZeichner="_s + Quoted(v.illu) + u", RZ="_s + v.rz + u", RiZeObjekt="_s +
                                 Quoted(v.objekt) + u", RizeZeichner="_s + Quoted(v.zeichner) + u" WHERE Nr="_s +
                                 v.nr + u';');
     if (!r.HasStatus)
         return;
-    Run(session, u"DELETE FROM Status WHERE Nr="_s + v.nr + u';');
+    ExecuteSql(session, u"DELETE FROM Status WHERE Nr="_s + v.nr + u';');
     for (int n = 1; n <= StatusCount; ++n)
-        sum += Run(session, InsertStatusSql(v.nr, n, r.Status[static_cast<size_t>(n - 1)]));
-    Run(session, u"DELETE FROM Links WHERE Nr="_s + v.nr + u';');
-    ForEachLink(r, [&](int n, const DatLink& link) { sum += Run(session, InsertLinkSql(v.nr, n, link)); });
+        sum += ExecuteSql(session, InsertStatusSql(v.nr, n, r.Status[static_cast<size_t>(n - 1)]));
+    ExecuteSql(session, u"DELETE FROM Links WHERE Nr="_s + v.nr + u';');
+    ForEachLink(r, [&](int n, const DatLink& link) { sum += ExecuteSql(session, InsertLinkSql(v.nr, n, link)); });
 }
 
 // ", Column='value'" for a text the line filled.
@@ -147,16 +141,16 @@ int UpdateImported(Session& session, const DetailsRecord& r)
 {
     const DetailsValues v(r);
     // Makes the rows if there are none yet; both fail on an existing row.
-    Run(session, u"INSERT INTO Details (Nr, Ersterscheinung) VALUES ("_s + v.nr + u", '31.12.1900');"_s);
+    ExecuteSql(session, u"INSERT INTO Details (Nr, Ersterscheinung) VALUES ("_s + v.nr + u", '31.12.1900');"_s);
     QString set = u"Nr="_s + v.nr;
     AddText(set, u"Ersterscheinung"_s, r.Ersterscheinung, v.date);
     AddText(set, u"Untertitel"_s, r.Untertitel, v.untertitel);
     for (size_t i = 0; i < v.persons.size(); ++i)
         AddText(set, PersonColumn(i), r.Persons[i], v.persons[i]);
     AddText(set, u"Inhalt"_s, r.Inhalt, v.inhalt);
-    int sum = Run(session, u"UPDATE Details SET "_s + set + u" WHERE Nr="_s + v.nr + u';');
+    int sum = ExecuteSql(session, u"UPDATE Details SET "_s + set + u" WHERE Nr="_s + v.nr + u';');
 
-    Run(session, u"INSERT INTO Gestaltung (Nr) VALUES ("_s + v.nr + u");"_s);
+    ExecuteSql(session, u"INSERT INTO Gestaltung (Nr) VALUES ("_s + v.nr + u");"_s);
     set = u"Nr="_s + v.nr;
     AddText(set, u"TiBiZeichner"_s, r.TiBiZeichner, v.tibi);
     AddText(set, u"IlluZeichner"_s, r.IlluZeichner, v.illu);
@@ -164,7 +158,7 @@ int UpdateImported(Session& session, const DetailsRecord& r)
         set += u", RZ="_s + v.rz;
     AddText(set, u"RiZeObjekt"_s, r.RiZeObjekt, v.objekt);
     AddText(set, u"RiZeZeichner"_s, r.RiZeZeichner, v.zeichner);
-    sum += Run(session, u"UPDATE Gestaltung SET "_s + set + u" WHERE Nr="_s + v.nr + u';');
+    sum += ExecuteSql(session, u"UPDATE Gestaltung SET "_s + set + u" WHERE Nr="_s + v.nr + u';');
 
     if (r.HasStatus) {
         for (int n = 1; n <= StatusCount; ++n) {
@@ -173,20 +167,20 @@ int UpdateImported(Session& session, const DetailsRecord& r)
                 continue;
             const QString number = QString::number(n);
             if (HasRow(session, u"Status"_s, v.nr, n))
-                sum += Run(session, u"UPDATE Status SET StatusWert="_s + Quoted(QuoteSql(value)) + u" WHERE Nr="_s +
+                sum += ExecuteSql(session, u"UPDATE Status SET StatusWert="_s + Quoted(QuoteSql(value)) + u" WHERE Nr="_s +
                                         v.nr + u" AND ENum="_s + number + u';');
             else
-                sum += Run(session, u"INSERT INTO Status (Nr, ENum,  StatusWert) VALUES ("_s + v.nr + u", "_s +
+                sum += ExecuteSql(session, u"INSERT INTO Status (Nr, ENum,  StatusWert) VALUES ("_s + v.nr + u", "_s +
                                         number + u", "_s + Quoted(QuoteSql(value)) + u");"_s);
         }
     }
     ForEachLink(r, [&](int n, const DatLink& link) {
         if (HasRow(session, u"Links"_s, v.nr, n))
-            sum += Run(session, u"UPDATE Links SET LinkNum="_s + QString::number(link.Num) + u", LinkText="_s +
+            sum += ExecuteSql(session, u"UPDATE Links SET LinkNum="_s + QString::number(link.Num) + u", LinkText="_s +
                                     Quoted(QuoteSql(link.Text)) + u", LinkSerie="_s + Quoted(QuoteSql(link.Serie)) +
                                     u" WHERE Nr="_s + v.nr + u" AND ENum="_s + QString::number(n) + u';');
         else
-            sum += Run(session, InsertLinkSql(v.nr, n, link));
+            sum += ExecuteSql(session, InsertLinkSql(v.nr, n, link));
     });
     return sum;
 }

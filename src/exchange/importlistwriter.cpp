@@ -11,12 +11,6 @@ namespace heft {
 
 namespace {
 
-int Run(Session& session, const QString& sql)
-{
-    session.CurrentSql = sql;
-    return ExecuteSql(session);
-}
-
 int NumberOf(const ListRecord& r) { return static_cast<int>(Val(r.Nr)); }
 
 // A row one above the highest number goes to the end of the list and is
@@ -88,17 +82,17 @@ int WriteListRecord(Session& session, EntryList& list, const ListRecord& r, Impo
     int result = 0;
     switch (mode) {
     case ImportMode::Insert:
-        result = Run(session, u"INSERT INTO HEFTLIST (Nr, Autor, Titel, Auflage, Zyklus, GL, Bemerkung) VALUES (%1, "
+        result = ExecuteSql(session, u"INSERT INTO HEFTLIST (Nr, Autor, Titel, Auflage, Zyklus, GL, Bemerkung) VALUES (%1, "
                               "'%2', '%3', %4, '%5', %6, '%7');"_s.arg(r.Nr, autor, titel, auflage, r.Zyklus,
                                                                          ReadMark(r), bemerkung));
         break;
     case ImportMode::AllColumns:
-        Run(session, u"UPDATE HEFTLIST SET Nr=%1, Autor='%2', Titel='%3', Auflage=%4, Zyklus='%5', GL=%6, "
+        ExecuteSql(session, u"UPDATE HEFTLIST SET Nr=%1, Autor='%2', Titel='%3', Auflage=%4, Zyklus='%5', GL=%6, "
                      "Bemerkung='%7' WHERE Nr=%1;"_s.arg(r.Nr, autor, titel, auflage, r.Zyklus, ReadMark(r), bemerkung));
         result = RefillListRow(session, list, NumberOf(r));
         break;
     case ImportMode::OnlyImported:
-        Run(session, u"UPDATE HEFTLIST SET %1 WHERE Nr=%2;"_s.arg(OnlyImportedList(r), r.Nr));
+        ExecuteSql(session, u"UPDATE HEFTLIST SET %1 WHERE Nr=%2;"_s.arg(OnlyImportedList(r), r.Nr));
         result = RefillListRow(session, list, NumberOf(r));
         break;
     }
