@@ -10,6 +10,7 @@
 #include <QHash>
 
 #include <algorithm>
+#include <array>
 #include <optional>
 
 using namespace Qt::StringLiterals;
@@ -35,8 +36,7 @@ public:
 private:
     QHash<int, QString> m_details;
     QHash<int, QString> m_design;
-    QHash<int, QString> m_status;
-    QHash<int, int> m_statusCount;
+    QHash<int, std::array<QString, StatusCount>> m_status;
     QHash<int, QString> m_links;
 };
 
@@ -56,7 +56,6 @@ void DetailsBatch::Load(Database& db, const QList<int>& numbers)
     m_details.clear();
     m_design.clear();
     m_status.clear();
-    m_statusCount.clear();
     m_links.clear();
     if (numbers.isEmpty())
         return;
@@ -87,11 +86,14 @@ void DetailsBatch::Load(Database& db, const QList<int>& numbers)
                                 DatField(design.Text(5)));
     }
 
-    Query status = db.Select(u"SELECT Nr, StatusWert FROM Status WHERE Nr IN (%1) ORDER BY Nr, ENum;"_s.arg(in));
+    // Each attribute stands in the field of its number, so that an entry
+    // with only some attributes stored (a column fill, a change stamp)
+    // comes back with each value under its own label.
+    Query status = db.Select(u"SELECT Nr, ENum, StatusWert FROM Status WHERE Nr IN (%1);"_s.arg(in));
     while (status.Next()) {
-        const int nr = static_cast<int>(status.Int(0));
-        m_status[nr] += DatField(status.Text(1));
-        ++m_statusCount[nr];
+        const qint64 enumber = status.Int(1);
+        if (enumber >= 1 && enumber <= StatusCount)
+            m_status[static_cast<int>(status.Int(0))][enumber - 1] = status.Text(2);
     }
 
     Query links = db.Select(u"SELECT * FROM Links WHERE Nr IN (%1) ORDER BY Nr, ENum;"_s.arg(in));
@@ -106,8 +108,9 @@ QString DetailsBatch::Line(int nr) const
     if (details == m_details.cend())
         return {};
     static const QString emptyField = DatField(QString());
-    QString line = *details + m_design.value(nr, emptyField.repeated(5)) + m_status.value(nr);
-    line += emptyField.repeated(std::max(0, StatusCount - m_statusCount.value(nr)));
+    QString line = *details + m_design.value(nr, emptyField.repeated(5));
+    for (const QString& value : m_status.value(nr))
+        line += DatField(value);
     return line + m_links.value(nr);
 }
 

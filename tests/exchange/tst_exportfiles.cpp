@@ -60,8 +60,8 @@ private Q_SLOTS:
         const QString fullDetails =
             u"\"1\";\"1961-09-08\";\"Die <Flut> kommt\";\"Tarvin Ask\";\"\";\"Mela Orkun\";"_s + E.repeated(6) +
             u"\"Tarvin erreicht Aldorath.\";\"Lorenz Falk\";\"Ines Marwald\";\"Ja\";\"Kreuzer KASTOR\";"
-            "\"Bodo Lessner\";\"2024-03-17 um 14:22:05\";\"00001.5\";"_s +
-            E.repeated(17) +
+            "\"Bodo Lessner\";\"2024-03-17 um 14:22:05\";"_s +
+            E.repeated(3) + u"\"00001.5\";"_s + E.repeated(14) +
             u"\"2\";\"Fortsetzung\";\"Valdorin Heftromane\";\"3\";\"Finale\";"
             "\"Valdorin Taschenbücher\";"_s;
         const QString emptyDetails = u"\"3\";\"1900-12-31\";\"1900-12-31\";"_s + E.repeated(10 + 5 + 19);
@@ -167,7 +167,9 @@ private Q_SLOTS:
                               u"Illustrationen:  Ines Marwald"_s, u"Rißzeichnung:    Ja"_s,
                               u"RZ Objekt:       Kreuzer KASTOR"_s, u"Rißzeichner:     Bodo Lessner"_s,
                               u"Letzte Änderung: 2024-03-17 um 14:22:05"_s}));
-        QCOMPARE(text[11], u"Exemplare:       00001.5"_s);
+        // Each attribute under its own label, also when others are missing.
+        QCOMPARE(text.mid(11, 5), (QStringList{u"Exemplare:       "_s, u"Zustand:         "_s, u"Verkäufer:       "_s,
+                                               u"Kaufpreis [EUR]: 00001.5"_s, u"Wert [EUR]:      "_s}));
         QCOMPARE(text[28], u"Kritik:          "_s);
         QCOMPARE(text.mid(29, 3), (QStringList{u"Verknüpfung 01:  Valdorin #2 - Fortsetzung"_s,
                                                u"Verknüpfung 02:  Valdorin #3 - Finale"_s, QString()}));
