@@ -29,7 +29,7 @@ const QString Usage = u"Aufruf:\n"
                       "  heftarium-cli --db DATEI import DATEI [--mode 0|1|2] [--details]\n"
                       "  heftarium-cli --db DATEI export BASIS --format dat,txt,html [--details] [--gelesen] [--zyklus]"
                       " [FELD:VERGLEICH:WERT ...]\n"
-                      "  heftarium-cli --cycle-db DATEI cycles export\n"_s;
+                      "  heftarium-cli --cycle-db DATEI cycles export [--series SERIE]\n"_s;
 
 // The value behind an option such as "--series"; empty if absent.
 QString OptionValue(const QStringList& arguments, const QString& option)
