@@ -50,7 +50,8 @@ void FilterMode::SetFilterCommands(bool filterOn)
     m_buttonDown = filterOn;
     m_button->setChecked(filterOn);
     m_menuItem->setChecked(filterOn);
-    m_menuItem->setText(filterOn ? u"Filter"_s : u"Filter ..."_s);
+    // The F stays the access key of the command in either state.
+    m_menuItem->setText(filterOn ? u"&Filter"_s : u"&Filter ..."_s);
 }
 
 void FilterMode::StartFilter()

@@ -111,7 +111,7 @@ void CheckCommands(FilterWindow& f, bool filterOn)
 {
     QCOMPARE(f.Command(u"filter"_s)->isChecked(), filterOn);
     QCOMPARE(f.Command(u"mnu_filter"_s)->isChecked(), filterOn);
-    QCOMPARE(f.Command(u"mnu_filter"_s)->text(), filterOn ? u"Filter"_s : u"Filter ..."_s);
+    QCOMPARE(f.Command(u"mnu_filter"_s)->text(), filterOn ? u"&Filter"_s : u"&Filter ..."_s);
     QCOMPARE(f.Command(u"import"_s)->isEnabled(), !filterOn);
     QCOMPARE(f.Command(u"mnu_import"_s)->isEnabled(), !filterOn);
 }
