@@ -47,30 +47,29 @@ bool CycleBoxAcceptsKey(CycleBox box, const QString& typed)
 
 CycleBox CheckCycleInput(CycleRow& input)
 {
+    // An empty number box gets a 0 to start from and stops the check there.
+    const auto zeroIfEmpty = [](QString& value) {
+        if (!value.isEmpty())
+            return false;
+        value = u"0"_s;
+        return true;
+    };
     if (Trim(input.Bezeichnung).isEmpty())
         input.Bezeichnung = u"*** Keine ***"_s;
-    if (input.NrVon.isEmpty()) {
-        input.NrVon = u"0"_s;
+    if (zeroIfEmpty(input.NrVon))
         return CycleBox::NrVon;
-    }
-    if (input.NrBis.isEmpty()) {
-        input.NrBis = u"0"_s;
+    if (zeroIfEmpty(input.NrBis))
         return CycleBox::NrBis;
-    }
     // Compared as texts, so that 900 counts as greater than 1000; the
     // program has always done so and users know the correction it makes.
     if (input.NrVon > input.NrBis) {
         input.NrVon = input.NrBis;
         return CycleBox::NrVon;
     }
-    if (input.ZeitVon.isEmpty()) {
-        input.ZeitVon = u"0"_s;
+    if (zeroIfEmpty(input.ZeitVon))
         return CycleBox::ZeitVon;
-    }
-    if (input.ZeitBis.isEmpty()) {
-        input.ZeitBis = u"0"_s;
+    if (zeroIfEmpty(input.ZeitBis))
         return CycleBox::ZeitBis;
-    }
     return CycleBox::None;
 }
 
