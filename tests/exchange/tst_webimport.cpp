@@ -1,0 +1,240 @@
+// The web import against a real HTTP server on 127.0.0.1 serving the
+// fixture wiki: what lands in the .dat pair and the picture folders, where
+// a run stops and what it says then, and the pair read back by the file
+// import.
+
+#include "importfixture.h"
+#include "support/wikifixtureserver.h"
+#include "testmain.h"
+
+#include "exchange/datfile.h"
+#include "exchange/webimport.h"
+#include "exchange/wikiscrape.h"
+#include "exchange/wikitext.h"
+
+#include <QDirIterator>
+#include <QRandomGenerator>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace heft;
+using namespace heft::test;
+
+namespace {
+
+class StopAfter : public WebImportObserver {
+public:
+    explicit StopAfter(int issues) : m_issues(issues) {}
+    bool IssueDone(int done) override { return m_issues == 0 || done < m_issues; }
+
+private:
+    int m_issues;
+};
+
+struct WebRun {
+    WebRun()
+    {
+        server.ServeSampleSite();
+        qputenv("HEFTARIUM_WIKI_URL", server.Url().toUtf8());
+        qputenv("HEFTARIUM_PUBLISHER_URL", server.Url().toUtf8() + "/");
+        f.collection.session.Config.PictureRoot = f.collection.dir.filePath(u"bilder"_s);
+    }
+    WebImportResult Run(int first, int last, bool pictures = true, int stopAfter = 0, WebLimits limits = {})
+    {
+        StopAfter observer(stopAfter);
+        const WebImportRequest request{first, last, pictures, pictures, f.collection.dir.filePath(u"import"_s)};
+        return ScrapeWikiRange(f.collection.session, request, observer, limits);
+    }
+    static QStringList Lines(const QString& path)
+    {
+        DatInputFile file;
+        QStringList lines;
+        for (file.Open(path); !file.AtEnd();)
+            lines << file.ReadLine();
+        return lines;
+    }
+    // Files in the collection's folder other than the collection, its log
+    // and the import files.
+    QStringList Pictures() const
+    {
+        const QDir top(f.collection.dir.path());
+        QStringList files;
+        for (QDirIterator it(top.path(), QDir::Files, QDirIterator::Subdirectories); it.hasNext();)
+            if (const QString file = top.relativeFilePath(it.next());
+                !file.startsWith(u"Test.mdb") && file != u"Heftarium.log" && !file.startsWith(u"import/"))
+                files << file;
+        files.sort();
+        return files;
+    }
+
+    ImportFixture f{false};
+    WikiFixtureServer server;
+};
+
+const QString Tibis = u"bilder/tibis/Valdorin (Heftromane)/"_s;
+const QString Illus = u"bilder/illus/Valdorin (Heftromane)/"_s;
+
+} // namespace
+
+class TestWebImport : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void textRules_data()
+    {
+        QTest::addColumn<QString>("rule");
+        QTest::addColumn<QString>("input");
+        QTest::addColumn<QString>("expected"); // "FEHLER" when the rule fails
+        QTest::newRow("three authors") << "kurz" << "Anna Bert / Carl Dorn / Emil Frey" << "A. Bert / C. Dorn / E. Frey";
+        QTest::newRow("short enough") << "kurz" << "Ulrike Brandt" << "Ulrike Brandt";
+        QTest::newRow("stays long") << "kurz" << "Maximiliane Feodora Berghammer" << "M. Feodora Berghammer";
+        QTest::newRow("no blank") << "kurz" << "Abcdefghijklmnopqrstuvwxyz0" << "FEHLER";
+        QTest::newRow("date") << "datum" << "<td>Donnerstag, 5. Oktober 2006" << "2006-Oktober-05";
+        QTest::newRow("date rest") << "datum" << "<td>Freitag, 11. Mai 2010 (Nachdruck)" << "2010 (Nachdruck)-Mai-11";
+        QTest::newRow("date short") << "datum" << "<td>Oktober 2006" << "FEHLER";
+        QTest::newRow("no link") << "links" << "</td><td>Ulrike Brandt" << "Ulrike Brandt";
+        QTest::newRow("two links") << "links" << "<a title='A'>Ann</a> und <a x='B'>Bo</a>" << "Ann / Bo";
+        QTest::newRow("open link") << "links" << "<a title='A'>Ann" << "FEHLER";
+        QTest::newRow("entities") << "text" << "  Stra&szlig;e &AUML;&nbsp;B&#160;C \"x\"\n– y " << "Straße ä-B C 'x' - y";
+    }
+    void textRules()
+    {
+        QFETCH(QString, rule);
+        QFETCH(QString, input);
+        QFETCH(QString, expected);
+        std::optional<QString> result;
+        if (rule == u"kurz")
+            result = ShortenAuthors(input);
+        else if (rule == u"datum")
+            result = WebDateText(input);
+        else if (rule == u"links")
+            result = LinkTextsOnly(input);
+        else
+            result = DecodeWebText(QString::fromLatin1(input.toUtf8()));
+        QCOMPARE(result.value_or(u"FEHLER"_s), expected);
+    }
+
+    void fullRange()
+    {
+        WebRun web;
+        const WebImportResult result = web.Run(2401, 2403);
+        QCOMPARE(result.fehler, u"Es sind keine Fehler aufgetreten."_s);
+        QVERIFY(result.bericht.endsWith(u"Übertrage und konvertiere Daten für #2403\r\n"));
+        // The cycle list is read for the first cycle and again when it changes.
+        QCOMPARE(web.server.Hits(u"/wiki/Zyklen"_s), 2);
+        const QStringList list = WebRun::Lines(result.listPath);
+        QCOMPARE(list.value(0), u"[Valdorin Heftromane]"_s);
+        QCOMPARE(list.value(1), u"\"2401\";\"M. Holzapfel / B. Kleinschmidt\";\"Die Brücke über dem Nebelmeer\";"
+                                "\"1\";\"XXXVIII\";\"Nein\";\"\";"_s);
+        QVERIFY(list.value(2).startsWith(u"\"2402\";\"Ulrike Brandt\";\"Stadt der Schläfer\";\"1\";\"XXXVIII\";"));
+        QVERIFY(list.value(3).contains(u"\"XXXIX\""));
+        QCOMPARE(web.Pictures(), QStringList({Illus + u"2401illu000.jpg"_s, Illus + u"2402illu001.gif"_s,
+                                               Illus + u"2402illu002.gif"_s, Illus + u"2403illu000.jpg"_s,
+                                               Tibis + u"2401tibi.jpg"_s, Tibis + u"2402tibi.jpg"_s,
+                                               Tibis + u"2403tibi.jpg"_s}));
+        QCOMPARE(QFileInfo(web.f.collection.dir.filePath(Tibis + u"2401tibi.jpg"_s)).size(),
+                 WikiFixtureServer::Fixture(u"cover.jpg"_s).size());
+
+        // The pair goes through the file import into the collection.
+        web.f.import.ImportChosenFile(result.listPath, ImportMode::Insert, true);
+        QCOMPARE(web.f.import.Refused(), 0);
+        QCOMPARE(web.f.Rows(u"SELECT Nr, Autor, Zyklus, Auflage FROM HEFTLIST ORDER BY Nr"_s),
+                 u"2401|M. Holzapfel / B. Kleinsc|XXXVIII|1/2402|Ulrike Brandt|XXXVIII|1/2403|Ulrike Brandt|XXXIX|1"_s);
+        QCOMPARE(web.f.Rows(u"SELECT Untertitel, Person1, Person9, Inhalt FROM Details WHERE Nr = 2401"_s),
+                 u"Sie suchen das Tor - und finden die Stadt der älteren-Schläfer|Jörn Eckhardt|Hakon Frey|René Duval"_s);
+        QCOMPARE(web.f.Rows(u"SELECT TiBiZeichner, IlluZeichner, RZ, RiZeObjekt, RiZeZeichner FROM Gestaltung ORDER BY Nr"_s),
+                 u"Dirk Schäfer|Lena Öztürk|-1|Sternenkreuzer der Ora Klasse|Karl Wendt/Dirk Schäfer||0||/"
+                 "Anja Roth|Lena Öztürk|-1|Nebelgleiter|Karl Wendt"_s);
+        QCOMPARE(web.f.Rows(u"SELECT COUNT(*) FROM Details WHERE DateValue(Ersterscheinung) = DateValue('05.10.2006')"_s),
+                 u"1"_s);
+    }
+
+    void failures_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<int>("status");
+        QTest::addColumn<QByteArray>("body"); // "@2402" is the page of 2402 without the next column's marker
+        QTest::addColumn<QByteArray>("location");
+        QTest::addColumn<int>("delay");
+        QTest::addColumn<QString>("fehler"); // empty: no failure
+        QTest::addColumn<int>("issues");
+        const QString page = u"/wiki/Quelle:VN2402"_s, cover = u"/wiki/Datei:VN2402.jpg"_s;
+        const QByteArray link = "<div class=\"fullImageLink\"><a href=\"";
+        const auto at = [](const char* step) { return u"Probleme beim Netz-Import für #2402 (%1)!"_s.arg(QString::fromUtf8(step)); };
+        QTest::newRow("404") << page << 404 << QByteArray("<html/>") << QByteArray() << 0 << at("URL öffnen") << 1;
+        QTest::newRow("short page") << page << 200 << QByteArray(20479, 'x') << QByteArray() << 0 << at("URL öffnen") << 1;
+        QTest::newRow("no cycle") << page << 200 << QByteArray("@<td>Zyklus:") << QByteArray() << 0 << at("Zyklus") << 1;
+        QTest::newRow("no title") << page << 200 << QByteArray("@<td>Titel:") << QByteArray() << 0 << at("Titel") << 1;
+        QTest::newRow("no author") << page << 200 << QByteArray("@<td>Autor:") << QByteArray() << 0 << at("Autor:") << 1;
+        QTest::newRow("no date") << page << 200 << QByteArray("@erschienen:</td>") << QByteArray() << 0 << at("Erscheinungsdatum") << 1;
+        QTest::newRow("no persons") << page << 200 << QByteArray("@Hauptpersonen:") << QByteArray() << 0 << at("Personen") << 1;
+        QTest::newRow("oversized") << page << 200 << QByteArray(20 * 1024 * 1024 + 1, 'x') << QByteArray() << 0 << at("URL öffnen") << 1;
+        QTest::newRow("slow") << page << 200 << QByteArray("@") << QByteArray() << 1500 << at("URL öffnen") << 1;
+        QTest::newRow("redirect here") << page << 302 << QByteArray() << QByteArray("http://127.0.0.1:@PORT@/wiki/Quelle:VN2403") << 0 << QString() << 3;
+        QTest::newRow("redirect away") << page << 302 << QByteArray() << QByteArray("http://localhost:@PORT@/wiki/Quelle:VN2403") << 0 << at("URL öffnen") << 1;
+        QTest::newRow("query link") << cover << 200 << link + "/images/x.jpg?../../a\">" << QByteArray() << 0 << at("TiBi R/W") << 1;
+        QTest::newRow("foreign link") << cover << 200 << link + "@evil.example/x.jpg\">" << QByteArray() << 0 << at("TiBi R/W") << 1;
+        QTest::newRow("escaping link") << cover << 200 << link + "/../../../x.jpg\">" << QByteArray() << 0 << at("TiBi R/W") << 1;
+    }
+    void failures()
+    {
+        QFETCH(QString, path);
+        QFETCH(int, status);
+        QFETCH(QByteArray, body);
+        QFETCH(QByteArray, location);
+        QFETCH(int, delay);
+        QFETCH(QString, fehler);
+        QFETCH(int, issues);
+        WebRun web;
+        if (body.startsWith('@'))
+            body = WikiFixtureServer::Padded(WikiFixtureServer::Fixture(u"VN2402.html"_s)).replace(body.mid(1), "");
+        location.replace("@PORT@", web.server.Url().section(u':', -1).toUtf8());
+        web.server.Set(path, {status, body, location, delay, status != 200 || body.size() < 1000});
+        const WebImportResult result = web.Run(2401, 2403, true, 0, {20 * 1024 * 1024, 400});
+        QCOMPARE(result.fehler, fehler.isEmpty() ? u"Es sind keine Fehler aufgetreten."_s : fehler);
+        // The issues before the failure stay in both files.
+        QCOMPARE(WebRun::Lines(result.listPath).size(), issues + 1);
+        QCOMPARE(WebRun::Lines(result.detailsPath).size(), issues + 1);
+        for (const QString& file : web.Pictures())
+            QVERIFY2(file.startsWith(Tibis) || file.startsWith(Illus), qPrintable(file));
+    }
+
+    void emptyRangeAndStop()
+    {
+        WebRun web;
+        const WebImportResult empty = web.Run(1800, 1799);
+        QVERIFY(empty.listPath.endsWith(u"/WebImport_#1800-1799.dat"));
+        QCOMPARE(WebRun::Lines(empty.detailsPath), QStringList(u"[Valdorin Details]"_s));
+        QVERIFY(web.server.Requests().isEmpty());
+        // Esc during the first issue: the run ends after it, without failure.
+        const WebImportResult stopped = web.Run(2401, 2403, false, 1);
+        QCOMPARE(stopped.fehler, u"Es sind keine Fehler aufgetreten."_s);
+        QCOMPARE(stopped.issues, 1);
+    }
+
+    void fuzzedPages()
+    {
+        const QString page = QString::fromLatin1(WikiFixtureServer::Fixture(u"VN2401.html"_s));
+        const QStringList pieces{u"<td>"_s, u"</td></tr>"_s, u"'>"_s, u"\">"_s, u"</a>"_s, u" / "_s, u"&auml;"_s, u"\xc3"_s};
+        QRandomGenerator random(15);
+        int scraped = 0;
+        for (int round = 0; round < 2000; ++round) {
+            QString mutated = page;
+            for (int edit = random.bounded(1, 8); edit > 0; --edit) {
+                const int at = random.bounded(static_cast<int>(mutated.size()) + 1);
+                if (random.bounded(2) == 0)
+                    mutated.remove(at, random.bounded(40));
+                else
+                    mutated.insert(at, pieces[random.bounded(static_cast<int>(pieces.size()))]);
+            }
+            WikiIssue issue;
+            QString stepName;
+            scraped += ScrapeIssuePage(mutated, issue, stepName) ? 1 : 0;
+            QVERIFY(issue.personen.size() <= 10 && !stepName.isEmpty());
+        }
+        QVERIFY(scraped > 0);
+    }
+};
+
+HEFT_TEST(TestWebImport)
+#include "tst_webimport.moc"
