@@ -66,7 +66,7 @@ private Q_SLOTS:
         WindowFixture w;
         QCOMPARE(w.dialog->windowTitle(), u"Daten Import"_s);
         QCOMPARE(w.Child<QGroupBox>(u"frm_options"_s)->title(), u"Einstellungen für die Heftromane Liste"_s);
-        QVERIFY(!w.Child<QPushButton>(u"btn_webupdate"_s)->isEnabled());
+        QVERIFY(w.Child<QPushButton>(u"btn_webupdate"_s)->isEnabled());
         QVERIFY(w.Child<QPlainTextEdit>(u"txt_bericht"_s)->isReadOnly());
         QCOMPARE(w.Child<QComboBox>(u"cmb_whatlist"_s)->currentText(), u"Nein, keine (INS)"_s);
 

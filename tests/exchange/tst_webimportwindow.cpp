@@ -1,0 +1,109 @@
+// frm_webimport and btn_webupdate of frm_import, driven for real: the range
+// rules of the two boxes, and a web import of three issues from the fixture
+// wiki that the file import then takes in.
+
+#include "importfixture.h"
+#include "support/wikifixtureserver.h"
+#include "testmain.h"
+
+#include "exchange/importwindow.h"
+#include "exchange/ui/webimportwindow.h"
+#include "mainwin/mainwindow.h"
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QTest>
+#include <QTimer>
+
+using namespace Qt::StringLiterals;
+using namespace heft;
+using namespace heft::test;
+
+class TestWebImportWindow : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initialRange_data()
+    {
+        QTest::addColumn<int>("last");
+        QTest::addColumn<QString>("start");
+        QTest::addColumn<QString>("end");
+        QTest::newRow("inside a decade") << 2400 << "2401" << "2409";
+        QTest::newRow("decade full") << 2409 << "2410" << "2419";
+        QTest::newRow("large") << 123455 << "123456" << "123459";
+    }
+    void initialRange()
+    {
+        QFETCH(int, last);
+        const WebRangeTexts range = InitialWebRange(last);
+        QTEST(range.start, "start");
+        QTEST(range.end, "end");
+    }
+
+    void rangeBoxes()
+    {
+        WebImportWindow dialog(nullptr, 2400);
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowActive(&dialog));
+        auto* start = dialog.findChild<QLineEdit*>(u"txt_start"_s);
+        start->setFocus();
+        start->selectAll();
+        QTest::keyClicks(start, u"17x9,9"_s);
+        QCOMPARE(start->text(), u"1799"_s);
+        QTest::keyClick(start, Qt::Key_Tab); // leaving the box forces the first wiki issue
+        QCOMPARE(start->text(), u"1800"_s);
+        dialog.findChild<QSpinBox*>(u"ud_end"_s)->stepBy(-1);
+        QCOMPARE(dialog.findChild<QLineEdit*>(u"txt_end"_s)->text(), u"2408"_s);
+        QTest::keyClick(start, Qt::Key_Return);
+        QCOMPARE(dialog.result(), int(QDialog::Accepted));
+        QCOMPARE(dialog.Request().first, 1800);
+        QCOMPARE(dialog.Request().last, 2408);
+    }
+
+    void webUpdate()
+    {
+        ImportFixture f;
+        WikiFixtureServer server;
+        server.ServeSampleSite();
+        qputenv("HEFTARIUM_WIKI_URL", server.Url().toUtf8());
+        qputenv("HEFTARIUM_PUBLISHER_URL", server.Url().toUtf8());
+        f.collection.session.Config.PictureRoot = f.collection.dir.filePath(u"bilder"_s);
+        MainWindow window;
+        window.LoadList(f.collection.session);
+        ImportWindow dialog(window);
+        dialog.show();
+        auto* button = dialog.findChild<QPushButton*>(u"btn_webupdate"_s);
+        QVERIFY(button->isEnabled());
+        const auto answerRange = [](const QString& endText, int key) {
+            QTimer::singleShot(0, [=] {
+                QWidget* range = QApplication::activeModalWidget();
+                QCOMPARE(range->objectName(), u"frm_webimport"_s);
+                QCOMPARE(range->findChild<QLineEdit*>(u"txt_start"_s)->text(), u"3"_s);
+                range->findChild<QLineEdit*>(u"txt_start"_s)->setText(u"2401"_s);
+                range->findChild<QLineEdit*>(u"txt_end"_s)->setText(endText);
+                range->grab().save(u"/tmp/shots/frm_webimport.png"_s);
+                QTest::keyClick(range->findChild<QLineEdit*>(u"txt_end"_s), Qt::Key(key));
+            });
+        };
+        answerRange(u"2404"_s, Qt::Key_Escape);
+        button->click();
+        QCOMPARE(dialog.findChild<QPlainTextEdit*>(u"txt_bericht"_s)->toPlainText(), u"Kein Web-Import Bereich ausgewählt."_s);
+
+        answerRange(u"2404"_s, Qt::Key_Enter);
+        button->click();
+        QCOMPARE(dialog.findChild<QPlainTextEdit*>(u"txt_fehler"_s)->toPlainText(), u"Probleme beim Netz-Import für #2404 (URL öffnen)!"_s);
+        QCOMPARE(window.StatusPanelText(5), u"Fertig mit Fehlern."_s);
+        dialog.grab().save(u"/tmp/shots/frm_import_after_web.png"_s);
+        // The three issues before the failure come in through the file import.
+        dialog.SetFileChooser([](QWidget*, const QString& folder) -> QString { return folder + u"/WebImport_#2401-2404.dat"_s; });
+        dialog.findChild<QPushButton*>(u"btn_choose"_s)->click();
+        QCOMPARE(window.List().Heftliste.Rows() - 1, 5);
+        dialog.grab().save(u"/tmp/shots/frm_import_web.png"_s);
+    }
+};
+
+HEFT_TEST(TestWebImportWindow)
+#include "tst_webimportwindow.moc"
