@@ -49,9 +49,15 @@ WebReply WebFetcher::Get(const QUrl& url)
     }
 
     answer.status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+    // Connection and protocol errors end the transfer, also after the
+    // headers came (a stalled body); an error status is an answer.
+    const QNetworkReply::NetworkError error = reply->error();
+    const bool broken = error != QNetworkReply::NoError &&
+                        (error < QNetworkReply::ContentAccessDenied ||
+                         (error >= QNetworkReply::ProtocolUnknownError && error <= QNetworkReply::ProtocolFailure));
     if (!refusal.isEmpty()) {
         answer.error = refusal;
-    } else if (reply->error() != QNetworkReply::NoError && answer.status == 0) {
+    } else if (broken) {
         answer.error = reply->errorString();
     } else {
         answer.ok = true;
