@@ -1,18 +1,18 @@
 // Heftarium's entry: prepares the data folder and the log, opens the
 // collection and the cycle file, and loads the main window.
 
-#include "datafolder.h"
+#include "app/datafolder.h"
 #include "messageboxprompter.h"
-#include "startup.h"
+#include "app/startup.h"
 
 #include "core/sqlwriters.h"
-#include "cycles/cyclewindowinstall.h"
-#include "details/detailopener.h"
-#include "exchange/exportdialog.h"
-#include "exchange/importwindow.h"
-#include "filter/filtermode.h"
-#include "mainwin/mainwindow.h"
-#include "mainwin/splashwindow.h"
+#include "cycles/ui/cyclewindowinstall.h"
+#include "details/ui/detailopener.h"
+#include "exchange/ui/exportdialog.h"
+#include "exchange/ui/importwindow.h"
+#include "filter/ui/filtermode.h"
+#include "mainwin/ui/mainwindow.h"
+#include "mainwin/ui/splashwindow.h"
 
 #include <QApplication>
 #include <QLocale>

@@ -3,7 +3,7 @@
 // It reads its values from the window's grid, writes the cycle file, and
 // puts what it wrote back into the grid, so the list needs no reload.
 
-#include "cycleedit.h"
+#include "cycles/cycleedit.h"
 
 #include <QDialog>
 

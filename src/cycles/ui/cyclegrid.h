@@ -3,7 +3,7 @@
 // number in a fixed first column. Its cells are what the editor reads and
 // what the cycle file is written from; table row i is cycle number i + 1.
 
-#include "cyclelist.h"
+#include "cycles/cyclelist.h"
 
 #include <QTableWidget>
 

@@ -1,15 +1,15 @@
 #include "cyclewindow.h"
 
 #include "cycleeditor.h"
-#include "cycleexport.h"
+#include "cycles/cycleexport.h"
 #include "cyclegrid.h"
-#include "cyclelist.h"
+#include "cycles/cyclelist.h"
 
 #include "core/session.h"
 #include "core/sqlwriters.h"
 #include "mainwin/entrygrid.h"
 #include "mainwin/entrygridmodel.h"
-#include "mainwin/mainwindow.h"
+#include "mainwin/ui/mainwindow.h"
 
 #include <QHeaderView>
 #include <QMenuBar>

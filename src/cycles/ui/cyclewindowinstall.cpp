@@ -3,7 +3,7 @@
 #include "cyclewindow.h"
 
 #include "core/session.h"
-#include "mainwin/mainwindow.h"
+#include "mainwin/ui/mainwindow.h"
 
 #include <QAction>
 

@@ -2,7 +2,7 @@
 
 #include "detailwindow.h"
 
-#include "mainwin/mainwindow.h"
+#include "mainwin/ui/mainwindow.h"
 
 namespace heft {
 

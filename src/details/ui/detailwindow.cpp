@@ -2,9 +2,9 @@
 #include "ui_detailwindow.h"
 
 #include "comboitems.h"
-#include "detailrecord.h"
-#include "detailsave.h"
-#include "erstdatum.h"
+#include "details/detailrecord.h"
+#include "details/detailsave.h"
+#include "details/erstdatum.h"
 #include "linkspanel.h"
 #include "statuspanel.h"
 

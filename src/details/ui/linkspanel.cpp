@@ -2,6 +2,8 @@
 
 #include "editlinkdialog.h"
 
+#include "details/detailrecord.h"
+
 #include "core/session.h"
 #include "core/textfuncs.h"
 #include "mainwin/entrylist.h"
@@ -113,13 +115,8 @@ void LinksPanel::SetEditMode(bool edit)
 void LinksPanel::LoadLinksList(int nr)
 {
     m_list->clear();
-    Query records = m_session.CollectionDb->Select(u"SELECT * FROM Links WHERE Nr=%1 ORDER BY ENum;"_s.arg(nr));
-    const int numberColumn = records.ColumnIndex(u"LinkNum"_s);
-    const int textColumn = records.ColumnIndex(u"LinkText"_s);
-    const int seriesColumn = records.ColumnIndex(u"LinkSerie"_s);
-    while (records.Next())
-        m_list->addTopLevelItem(new LinkItem({static_cast<int>(records.Int(numberColumn)),
-                                              records.Text(textColumn), records.Text(seriesColumn)}));
+    for (const LinkValue& link : ReadLinks(m_session, nr))
+        m_list->addTopLevelItem(new LinkItem({link.Number, link.Text, link.Series}));
     m_list->setCurrentItem(m_list->topLevelItem(0));
     RefreshButtons();
 }

@@ -1,7 +1,7 @@
 #include "personlist.h"
 
 #include "comboitems.h"
-#include "detailrecord.h"
+#include "details/detailrecord.h"
 
 #include "core/textfuncs.h"
 #include "mainwin/twips.h"

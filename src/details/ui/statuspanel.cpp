@@ -1,6 +1,7 @@
 #include "statuspanel.h"
 
-#include "attributecatalog.h"
+#include "details/attributecatalog.h"
+#include "details/detailrecord.h"
 
 #include "core/session.h"
 #include "core/textfuncs.h"
@@ -108,15 +109,9 @@ void StatusPanel::LoadStatusList(int nr)
         new QTreeWidgetItem(m_list, {QString(), attribute.label});
     m_list->setCurrentItem(Row(1));
 
-    // Load errors leave the rows filled so far; an unknown ENum is skipped.
-    Query records = m_session.CollectionDb->Select(u"SELECT * FROM Status WHERE Nr=%1 ORDER BY ENum;"_s.arg(nr));
-    const int enumColumn = records.ColumnIndex(u"ENum"_s);
-    const int valueColumn = records.ColumnIndex(u"StatusWert"_s);
-    while (records.Next()) {
-        const auto enumber = static_cast<int>(records.Int(enumColumn));
-        if (enumber >= 1 && enumber <= StatusAttributeCount)
-            Row(enumber)->setText(0, DisplayStatusValue(enumber, records.Text(valueColumn)));
-    }
+    const QMap<int, QString> stored = ReadStatusValues(m_session, nr);
+    for (auto value = stored.cbegin(); value != stored.cend(); ++value)
+        Row(value.key())->setText(0, DisplayStatusValue(value.key(), value.value()));
 }
 
 QString StatusPanel::StoredValue(int enumber) const

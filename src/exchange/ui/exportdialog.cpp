@@ -1,11 +1,11 @@
 #include "exportdialog.h"
 #include "ui_exportdialog.h"
 
-#include "exportrun.h"
+#include "exchange/exportrun.h"
 
 #include "core/session.h"
-#include "filter/filtermode.h"
-#include "mainwin/mainwindow.h"
+#include "filter/ui/filtermode.h"
+#include "mainwin/ui/mainwindow.h"
 
 #include <QDesktopServices>
 #include <QDir>

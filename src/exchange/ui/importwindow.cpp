@@ -2,7 +2,7 @@
 #include "ui_importwindow.h"
 
 #include "core/session.h"
-#include "mainwin/mainwindow.h"
+#include "mainwin/ui/mainwindow.h"
 
 #include <QAction>
 #include <QDesktopServices>

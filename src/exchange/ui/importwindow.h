@@ -3,7 +3,7 @@
 // and the window shows what was taken and what was refused. Esc stops a
 // running import after its line; Esc when nothing runs closes the window.
 
-#include "importengine.h"
+#include "exchange/importengine.h"
 
 #include <QDialog>
 

@@ -1,11 +1,11 @@
 #include "columnfilldialog.h"
 #include "ui_columnfilldialog.h"
 
-#include "columnfill.h"
-#include "filterfields.h"
+#include "filter/columnfill.h"
+#include "filter/filterfields.h"
 
 #include "core/session.h"
-#include "mainwin/mainwindow.h"
+#include "mainwin/ui/mainwindow.h"
 
 #include <QApplication>
 #include <QKeyEvent>

@@ -1,13 +1,13 @@
 #include "filterdialog.h"
 #include "ui_filterdialog.h"
 
-#include "filterfields.h"
+#include "filter/filterfields.h"
 #include "filtermode.h"
-#include "filterrun.h"
+#include "filter/filterrun.h"
 
 #include "core/session.h"
 #include "core/textfuncs.h"
-#include "mainwin/mainwindow.h"
+#include "mainwin/ui/mainwindow.h"
 
 #include <QApplication>
 #include <QKeyEvent>

@@ -5,7 +5,7 @@
 // and when btn_ausf may be pressed; the statement itself comes from the
 // FilterGenerator.
 
-#include "filtergenerator.h"
+#include "filter/filtergenerator.h"
 
 #include <QDialog>
 

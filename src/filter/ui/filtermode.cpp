@@ -5,8 +5,8 @@
 #include "smallfilterwindow.h"
 
 #include "core/textfuncs.h"
-#include "mainwin/mainwindow.h"
-#include "mainwin/statusbar.h"
+#include "mainwin/ui/mainwindow.h"
+#include "mainwin/ui/statusbar.h"
 
 #include <QAction>
 

@@ -1,8 +1,6 @@
 #pragma once
-// Adding and changing one list entry. Every save begins with an INSERT, and
-// the database's answer (duplicate key or not, and what the user said to
-// overwriting) decides whether the save was a new entry, a plain change, a
-// renumbering or an overwrite.
+// Adding and changing one list entry through frm_edit; the writing itself is
+// WriteEntry's.
 
 class QComboBox;
 

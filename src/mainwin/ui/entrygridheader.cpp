@@ -1,6 +1,6 @@
 #include "entrygridheader.h"
 
-#include "entrygridmodel.h"
+#include "mainwin/entrygridmodel.h"
 
 #include <QMouseEvent>
 #include <QPainter>

@@ -1,9 +1,9 @@
 #include "entrygridview.h"
 
 #include "entrygridheader.h"
-#include "entrylist.h"
+#include "mainwin/entrylist.h"
 #include "readmarkdelegate.h"
-#include "twips.h"
+#include "mainwin/twips.h"
 
 #include <QHeaderView>
 #include <QKeyEvent>

@@ -2,7 +2,7 @@
 
 #include "entrygridview.h"
 #include "statusbar.h"
-#include "twips.h"
+#include "mainwin/twips.h"
 
 #include "core/drives.h"
 #include "core/session.h"

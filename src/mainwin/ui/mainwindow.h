@@ -3,7 +3,7 @@
 // and the status bar with its progress bar. Commands reach the entries
 // through the list routines of EntryList, which this window owns.
 
-#include "entrylist.h"
+#include "mainwin/entrylist.h"
 
 #include <QMainWindow>
 

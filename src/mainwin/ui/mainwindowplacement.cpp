@@ -4,7 +4,7 @@
 
 #include "maincommands.h"
 #include "mainwindow.h"
-#include "twips.h"
+#include "mainwin/twips.h"
 
 #include "core/log.h"
 #include "core/placement.h"

@@ -1,6 +1,6 @@
 #include "readmarkdelegate.h"
 
-#include "entrygridmodel.h"
+#include "mainwin/entrygridmodel.h"
 
 #include <QApplication>
 #include <algorithm>

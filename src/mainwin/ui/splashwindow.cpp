@@ -1,6 +1,6 @@
 #include "splashwindow.h"
 
-#include "imageloading.h"
+#include "mainwin/imageloading.h"
 #include "ui_splashwindow.h"
 
 #include "core/session.h"
