@@ -6,7 +6,7 @@
 #include "support/wikifixtureserver.h"
 #include "testmain.h"
 
-#include "exchange/importwindow.h"
+#include "exchange/ui/importwindow.h"
 #include "exchange/ui/webimportwindow.h"
 #include "mainwin/mainwindow.h"
 

@@ -3,7 +3,7 @@
 // window the progress. The pair of files it leaves in the import folder is
 // then imported like any other.
 
-#include "exchange/importwindow.h"
+#include "exchange/ui/importwindow.h"
 #include "ui_importwindow.h"
 
 #include "webimportwindow.h"
