@@ -8,7 +8,7 @@
 
 #include "exchange/ui/importwindow.h"
 #include "exchange/ui/webimportwindow.h"
-#include "mainwin/mainwindow.h"
+#include "mainwin/ui/mainwindow.h"
 
 #include <QApplication>
 #include <QLineEdit>

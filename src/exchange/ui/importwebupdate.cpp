@@ -10,7 +10,7 @@
 
 #include "core/session.h"
 #include "core/textfuncs.h"
-#include "mainwin/mainwindow.h"
+#include "mainwin/ui/mainwindow.h"
 
 #include <QProgressBar>
 #include <QScrollBar>
