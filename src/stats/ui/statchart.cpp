@@ -42,7 +42,7 @@ SeriesValues SplitBySeries(const ChartData& data)
             continue;
         // The category axis keeps one category per name; two authors with
         // the same initials get names that differ by an invisible mark.
-        const int earlier = seen.value(row.label)++;
+        const int earlier = seen[row.label]++;
         split.categories.append(row.label + QString(earlier, QChar(0x200B)));
     }
     return split;
