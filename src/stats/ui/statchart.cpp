@@ -68,8 +68,10 @@ QBarCategoryAxis* CategoryAxis(const ChartData& data, const QStringList& categor
     axis->append(categories);
     if (data.tooFewData)
         return axis;
-    // The labels stand upright, so that many short names fit side by side.
+    // The labels stand upright, so that many short names fit side by side,
+    // and are never cut to an ellipsis.
     axis->setLabelsAngle(-90);
+    axis->setTruncateLabels(false);
     const qsizetype rows = categories.size();
     if (rows > ChartData::MaxScaledRows) {
         axis->setLabelsVisible(false);
@@ -95,23 +97,41 @@ QValueAxis* ValueAxis(const ChartData& data)
     axis->setRange(0, highest > 0 ? highest * 1.12 : 1);
     axis->applyNiceNumbers();
     axis->setLabelFormat(whole ? u"%.0f"_s : u"%.2f"_s);
+    // Counts step by whole numbers, so that no label stands twice.
+    if (whole && (axis->max() - axis->min()) / (axis->tickCount() - 1) < 1) {
+        axis->setTickType(QValueAxis::TicksDynamic);
+        axis->setTickAnchor(0);
+        axis->setTickInterval(1);
+    }
     return axis;
+}
+
+// White labels sit inside the bars; a bar too short to hold its label gets
+// them black above it instead, for all bars alike.
+bool LabelsFitInside(const ChartData& data)
+{
+    double highest = 0, lowest = 0;
+    for (const ChartRow& row : data.rows) {
+        highest = std::max(highest, row.value);
+        lowest = row.value > 0 && (lowest == 0 || row.value < lowest) ? row.value : lowest;
+    }
+    return lowest >= highest * 0.08;
 }
 
 QAbstractSeries* BarSeries(const ChartData& data, const SeriesValues& split)
 {
+    const bool white = data.whiteLabels && LabelsFitInside(data);
     auto* bars = new QBarSeries;
     for (qsizetype i = 0; i < data.series.size(); ++i) {
         auto* set = new QBarSet(data.series[i].name);
         set->append(split.values[i]);
         set->setColor(data.series[i].colour);
         set->setBorderColor(data.series[i].colour.darker(130));
-        set->setLabelColor(data.whiteLabels ? Qt::white : Qt::black);
+        set->setLabelColor(white ? Qt::white : Qt::black);
         bars->append(set);
     }
     bars->setLabelsVisible(data.valueLabels && !data.tooFewData);
-    bars->setLabelsPosition(data.whiteLabels ? QAbstractBarSeries::LabelsInsideEnd
-                                             : QAbstractBarSeries::LabelsOutsideEnd);
+    bars->setLabelsPosition(white ? QAbstractBarSeries::LabelsInsideEnd : QAbstractBarSeries::LabelsOutsideEnd);
     bars->setLabelsFormat(u"@value"_s);
     return bars;
 }
@@ -171,7 +191,8 @@ void DrawChart(QWidget* chartView, const ChartData& data)
         one->attachAxis(categories);
         one->attachAxis(values);
     }
-    chart->legend()->setVisible(!shown.tooFewData);
+    // One series needs no legend; the space goes to the bars.
+    chart->legend()->setVisible(shown.series.size() > 1);
     QChart* previous = view->chart();
     view->setChart(chart);
     delete previous;
