@@ -26,16 +26,6 @@ std::optional<QDate> LendingDate(const QString& stored)
     return std::nullopt;
 }
 
-Query OpenLogged(Session& session, const QString& sql)
-{
-    session.CurrentSql = sql;
-    DbError error;
-    Query query = session.CollectionDb->Select(sql, &error);
-    if (error)
-        session.WriteLog(error.number, u"Statistik: "_s + error.description);
-    return query;
-}
-
 struct Lending {
     int nr = 0;
     QDate date;
@@ -64,7 +54,7 @@ StatsResult BuildVerleihwesen(const ReportContext& context)
     Lending oldest{0, QDate(2099, 12, 31)}, newest{0, QDate(100, 1, 1)};
     QHash<int, bool> lentEntries;
     int lent = 0;
-    Query dates = OpenLogged(session, u"SELECT Nr, StatusWert FROM Status WHERE ENum=18 ORDER BY Nr;"_s);
+    Query dates = StatsQuery(session, u"SELECT Nr, StatusWert FROM Status WHERE ENum=18 ORDER BY Nr;"_s);
     while (dates.Next()) {
         const int nr = static_cast<int>(dates.Int(0));
         const std::optional<QDate> date = LendingDate(dates.Text(1));
@@ -99,7 +89,7 @@ StatsResult BuildVerleihwesen(const ReportContext& context)
     };
     QHash<QString, int> countOf;
     int counted = 0;
-    Query names = OpenLogged(session, u"SELECT DISTINCT StatusWert, Nr FROM Status WHERE ENum=17 AND "
+    Query names = StatsQuery(session, u"SELECT DISTINCT StatusWert, Nr FROM Status WHERE ENum=17 AND "
                                       "StatusWert<> '' ORDER BY StatusWert;"_s);
     while (names.Next()) {
         const QString name = names.Text(0);

@@ -20,11 +20,7 @@ constexpr qsizetype MissingListLimit = 20000;
 std::vector<int> ListedNumbers(Session& session)
 {
     std::vector<int> numbers;
-    session.CurrentSql = u"SELECT Nr FROM HEFTLIST WHERE Nr>0 ORDER BY Nr;"_s;
-    DbError error;
-    Query query = session.CollectionDb->Select(session.CurrentSql, &error);
-    if (error)
-        session.WriteLog(error.number, u"Statistik: "_s + error.description);
+    Query query = StatsQuery(session, u"SELECT Nr FROM HEFTLIST WHERE Nr>0 ORDER BY Nr;"_s);
     while (query.Next())
         numbers.push_back(static_cast<int>(query.Int(0)));
     return numbers;

@@ -20,11 +20,7 @@ namespace {
 QList<QPair<int, double>> ReadAmounts(Session& session, int enumber)
 {
     QList<QPair<int, double>> amounts;
-    session.CurrentSql = u"SELECT StatusWert, Nr FROM Status WHERE ENum=%1 ORDER BY Nr;"_s.arg(enumber);
-    DbError error;
-    Query query = session.CollectionDb->Select(session.CurrentSql, &error);
-    if (error)
-        session.WriteLog(error.number, u"Statistik: "_s + error.description);
+    Query query = StatsQuery(session, u"SELECT StatusWert, Nr FROM Status WHERE ENum=%1 ORDER BY Nr;"_s.arg(enumber));
     while (query.Next()) {
         const double amount = Val(query.Text(0).replace(u',', u'.'));
         if (amount > 0)

@@ -11,20 +11,17 @@ namespace heft {
 
 namespace {
 
-// Runs a SELECT; a failing statement is logged and gives no rows.
-Query OpenLogged(Session& session, const QString& sql)
+// A statement that fails is logged behind itself; the statistic goes on with
+// what it has.
+void LogFailure(Session& session, const DbError& error)
 {
-    session.CurrentSql = sql;
-    DbError error;
-    Query query = session.CollectionDb->Select(sql, &error);
     if (error)
         session.WriteLog(error.number, u"Statistik: "_s + error.description);
-    return query;
 }
 
 void FetchAuthors(Session& session, StatsLists& lists)
 {
-    Query query = OpenLogged(session, u"SELECT DISTINCT AUTOR FROM HEFTLIST ORDER BY AUTOR;"_s);
+    Query query = StatsQuery(session, u"SELECT DISTINCT AUTOR FROM HEFTLIST ORDER BY AUTOR;"_s);
     while (query.Next()) {
         // An entry without an author can be neither chosen nor counted by
         // name, so it gets no row of its own.
@@ -37,7 +34,7 @@ void FetchAuthors(Session& session, StatsLists& lists)
 
 void FetchCycles(Session& session, StatsLists& lists)
 {
-    Query query = OpenLogged(session, u"SELECT DISTINCT ZYKLUS FROM HEFTLIST ORDER BY ZYKLUS;"_s);
+    Query query = StatsQuery(session, u"SELECT DISTINCT ZYKLUS FROM HEFTLIST ORDER BY ZYKLUS;"_s);
     bool unknownListed = false;
     while (query.Next()) {
         const QString text = query.IsNull(0) ? QString() : query.Text(0);
@@ -55,7 +52,7 @@ void FetchCycles(Session& session, StatsLists& lists)
 
 void FetchPrintings(Session& session, StatsLists& lists)
 {
-    Query query = OpenLogged(session, u"SELECT DISTINCT AUFLAGE FROM HEFTLIST ORDER BY AUFLAGE;"_s);
+    Query query = StatsQuery(session, u"SELECT DISTINCT AUFLAGE FROM HEFTLIST ORDER BY AUFLAGE;"_s);
     while (query.Next()) {
         const int printing = query.IsNull(0) ? 0 : static_cast<int>(query.Int(0));
         if (lists.printings.isEmpty() || lists.printings.last() != printing)
@@ -95,13 +92,21 @@ int CountDBEntries(Session& session, const QString& field, const QString& condit
     return static_cast<int>(StatsValue(session, u"SELECT COUNT(*) FROM HEFTLIST WHERE "_s + field + condition));
 }
 
+Query StatsQuery(Session& session, const QString& sql)
+{
+    session.CurrentSql = sql;
+    DbError error;
+    Query query = session.CollectionDb->Select(sql, &error);
+    LogFailure(session, error);
+    return query;
+}
+
 qint64 StatsValue(Session& session, const QString& sql)
 {
     session.CurrentSql = sql;
     DbError error;
     const QVariant value = session.CollectionDb->SelectValue(sql, &error);
-    if (error)
-        session.WriteLog(error.number, u"Statistik: "_s + error.description);
+    LogFailure(session, error);
     return value.toLongLong();
 }
 

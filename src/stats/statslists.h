@@ -3,6 +3,8 @@
 // cycles and printings in use, the size of the list and its highest number.
 // Read once when the statistics window opens.
 
+#include "core/database.h"
+
 #include <QList>
 #include <QString>
 #include <QStringList>
@@ -44,5 +46,7 @@ int CountDBEntries(Session& session, const QString& field, const QString& condit
 // The first value of a statement's first row as a number, 0 when there is
 // none; an engine error is logged with the statement.
 qint64 StatsValue(Session& session, const QString& sql);
+// Opens a SELECT; a failing statement is logged and gives no rows.
+Query StatsQuery(Session& session, const QString& sql);
 
 } // namespace heft
