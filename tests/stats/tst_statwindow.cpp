@@ -14,12 +14,14 @@
 #include "stats/ui/statwindowinstall.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QComboBox>
 #include <QFile>
 #include <QGroupBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTest>
+#include <QTimer>
 
 using namespace Qt::StringLiterals;
 using namespace heft;
@@ -47,6 +49,19 @@ private Q_SLOTS:
         main.LoadList(session);
         InstallStatisticsWindow(main);
         QVERIFY(main.IsCommandEnabled(u"mnu_stat"_s));
+        // The menu command opens the window modal; it is closed from within.
+        QString opened;
+        QTimer closer;
+        QObject::connect(&closer, &QTimer::timeout, [&opened] {
+            if (QWidget* modal = QApplication::activeModalWidget()) {
+                opened = modal->objectName();
+                modal->close();
+            }
+        });
+        closer.start(20);
+        main.Command(u"mnu_stat"_s)->trigger();
+        closer.stop();
+        QCOMPARE(opened, u"frm_stat"_s);
 
         StatWindow window(main);
         window.Load();
