@@ -9,7 +9,7 @@
 
 #include "core/config.h"
 #include "core/sqlwriters.h"
-#include "mainwin/mainwindow.h"
+#include "mainwin/ui/mainwindow.h"
 #include "stats/ui/statwindow.h"
 #include "stats/ui/statwindowinstall.h"
 

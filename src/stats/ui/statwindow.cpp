@@ -3,7 +3,7 @@
 #include "statchart.h"
 #include "ui_statwindow.h"
 
-#include "mainwin/mainwindow.h"
+#include "mainwin/ui/mainwindow.h"
 
 #include <QFontDatabase>
 #include <QProgressBar>

@@ -2,7 +2,7 @@
 
 #include "statwindow.h"
 
-#include "mainwin/mainwindow.h"
+#include "mainwin/ui/mainwindow.h"
 
 using namespace Qt::StringLiterals;
 
