@@ -1,5 +1,6 @@
 #include "clicommands.h"
 #include "cliexchange.h"
+#include "clistats.h"
 #include "clifilterwords.h"
 
 #include "core/config.h"
@@ -29,6 +30,8 @@ const QString Usage = u"Aufruf:\n"
                       "  heftarium-cli --db DATEI import DATEI [--mode 0|1|2] [--details]\n"
                       "  heftarium-cli --db DATEI export BASIS --format dat,txt,html [--details] [--gelesen] [--zyklus]"
                       " [FELD:VERGLEICH:WERT ...]\n"
+                      "  heftarium-cli --db DATEI stats NAME [--author TEXT] [--cycle ZYKLUS] [--preiswert 0|1|2]"
+                      " [--rows]\n"
                       "  heftarium-cli --cycle-db DATEI cycles export [--series SERIE]\n"_s;
 
 // The value behind an option such as "--series"; empty if absent.
@@ -256,6 +259,8 @@ int RunCli(const QStringList& arguments, QTextStream& out, QTextStream& err)
         return ImportCommand(session, arguments.mid(3), out, err);
     if (command == u"export")
         return ExportCommand(session, arguments.mid(3), out, err);
+    if (command == u"stats")
+        return StatsCommand(session, arguments.mid(3), out, err);
     err << CliUsage();
     return 2;
 }
