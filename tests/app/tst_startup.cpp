@@ -100,21 +100,6 @@ private Q_SLOTS:
         QVERIFY(prompter.asked.isEmpty());
     }
 
-    void deletedMarkerRestoresShippedFiles()
-    {
-        {
-            Session session;
-            ScriptedPrompter prompter;
-            QVERIFY(Start(session, prompter));
-            session.CollectionDb->Execute(u"DELETE FROM HEFTLIST;"_s);
-        }
-        QVERIFY(QFile::remove(Data() + u'/' + MarkerFile()));
-        Session session;
-        ScriptedPrompter prompter;
-        QVERIFY(Start(session, prompter));
-        QCOMPARE(session.CollectionDb->SelectValue(u"SELECT COUNT(*) FROM HEFTLIST;"_s).toInt(), 1);
-    }
-
     void missingConfigurationEndsTheProgram()
     {
         DbError error;

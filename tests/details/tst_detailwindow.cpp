@@ -86,7 +86,6 @@ template <typename T> T* Find(QWidget& window, const QString& name)
 }
 
 QTreeWidget* Persons(QWidget& window) { return Find<QTreeWidget>(window, u"liv_personen"_s); }
-QComboBox* PersonBox(QWidget& window) { return Find<QComboBox>(window, u"cmb_floatP"_s); }
 
 QStringList PersonRows(QWidget& window)
 {
@@ -220,58 +219,6 @@ private Q_SLOTS:
         QCOMPARE(f.Value(u"SELECT %1 FROM %2 WHERE Nr=4;"_s.arg(table[1], table[0])).toString(), stored);
         QCOMPARE(f.Value(u"SELECT RZ FROM Gestaltung WHERE Nr=4;"_s).toInt(), table[1].startsWith(u"RiZe"_s) ? -1 : 0);
         QVERIFY(f.collection.prompter.asked.isEmpty());
-    }
-
-    void personBox_data()
-    {
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<QString>("finish"); // Enter, Escape, click on another row, or the save button
-        QTest::addColumn<QString>("row");
-        const QString longName = u"Ein sehr langer Name, der nicht ganz passt"_s;
-        QTest::newRow("Enter takes the name") << u"Tevo Ranke"_s << u"Enter"_s << u"Tevo Ranke"_s;
-        QTest::newRow("Enter trims and cuts") << u"  "_s + longName << u"Enter"_s << longName.left(32);
-        QTest::newRow("Esc drops the name") << u"Tevo Ranke"_s << u"Escape"_s << u"Lorn"_s;
-        QTest::newRow("save keeps the open name") << u"Tevo Ranke"_s << u"Save"_s << u"Tevo Ranke"_s;
-    }
-    void personBox()
-    {
-        QFETCH(QString, typed);
-        QFETCH(QString, finish);
-        QFETCH(QString, row);
-        Fixture f;
-        f.collection.Exec(u"INSERT INTO Details (Nr, Person1, Person5) VALUES (1, 'Mira Solt', ' Arn Dolo ');"_s);
-        f.collection.Exec(u"INSERT INTO Details (Nr, Ersterscheinung, Person2) VALUES (4, '01.03.2009', 'Lorn');"_s);
-        const auto w = f.Open(4, true);
-        QCOMPARE(PersonRows(*w).mid(0, 3), QStringList({QString(), u"Lorn"_s, QString()}));
-
-        DoubleClickPerson(*w, 1);
-        QComboBox* box = PersonBox(*w);
-        QVERIFY(box->isVisible());
-        QCOMPARE(box->currentText(), u"Lorn"_s);
-        QStringList offered;
-        for (int i = 0; i < box->count(); ++i)
-            offered << box->itemText(i);
-        QCOMPARE(offered, QStringList({u"Arn Dolo"_s, u"Lorn"_s, u"Mira Solt"_s}));
-
-        box->lineEdit()->selectAll();
-        TypeKeys(box, typed);
-        if (finish == u"Enter"_s)
-            QTest::keyClick(box, Qt::Key_Return);
-        else if (finish == u"Escape"_s)
-            QTest::keyClick(box, Qt::Key_Escape);
-        else if (finish == u"Click"_s)
-            QTest::mouseClick(Persons(*w)->viewport(), Qt::LeftButton, {},
-                              Persons(*w)->visualItemRect(Persons(*w)->topLevelItem(7)).center());
-        QVERIFY(w->isVisible());
-        if (finish != u"Save"_s) {
-            QVERIFY(box->isHidden());
-            QCOMPARE(PersonRows(*w)[1], row);
-        }
-        Save(*w);
-        QVERIFY(box->isHidden());
-        QCOMPARE(f.Value(u"SELECT Person2 FROM Details WHERE Nr=4;"_s).toString(), row.trimmed());
-        const int fitted = Persons(*w)->columnWidth(0);
-        QVERIFY2(fitted >= Persons(*w)->fontMetrics().horizontalAdvance(row), qPrintable(QString::number(fitted)));
     }
 
     void closing_data()

@@ -71,20 +71,6 @@ struct Fixture {
         list = panel->findChild<QTreeWidget*>(u"liv_links"_s);
     }
     QPushButton* Button(const QString& name) const { return panel->findChild<QPushButton*>(name); }
-    QList<bool> Enabled() const
-    {
-        QList<bool> enabled;
-        for (const QString& name : {u"btn_neu"_s, u"btn_edit"_s, u"btn_del"_s, u"btn_goto"_s})
-            enabled << Button(name)->isEnabled();
-        return enabled;
-    }
-    QList<int> Numbers() const
-    {
-        QList<int> numbers;
-        for (const LinkRow& link : panel->Links())
-            numbers << link.number;
-        return numbers;
-    }
     int Selected() const { return list->indexOfTopLevelItem(list->currentItem()); }
     void Select(int row) const { list->setCurrentItem(list->topLevelItem(row)); }
     TempCollection collection;
@@ -93,44 +79,12 @@ struct Fixture {
     QTreeWidget* list = nullptr;
 };
 
-QList<LinkRow> Parts(int count, const QString& series = OpenList)
-{
-    QList<LinkRow> links;
-    for (int i = 1; i <= count; ++i)
-        links.append({i + 5, u"Teil %1 von %2"_s.arg(i).arg(count), series});
-    return links;
-}
-
 } // namespace
 
 class TestLinksPanel : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    // The row moving into the gap is selected, or the last one.
-    void deleteSelects_data()
-    {
-        QTest::addColumn<int>("rows");
-        QTest::addColumn<int>("selected");
-        QTest::addColumn<int>("selectedAfter");
-        QTest::newRow("middle of three") << 3 << 1 << 1;
-        QTest::newRow("the only one") << 1 << 0 << -1;
-    }
-    void deleteSelects()
-    {
-        QFETCH(int, rows);
-        QFETCH(int, selected);
-        QFETCH(int, selectedAfter);
-        Fixture f(Parts(rows));
-        QSignalSpy changed(f.panel.get(), &LinksPanel::Changed);
-        f.Select(selected);
-        f.Button(u"btn_del"_s)->click();
-        QVERIFY(!f.Numbers().contains(6 + selected));
-        QCOMPARE(f.Selected(), selectedAfter);
-        QCOMPARE(changed.size(), 1);
-        QCOMPARE(f.Enabled().mid(1), QList<bool>(3, rows > 1));
-    }
-
     void gotoSelectsEntry()
     {
         Fixture f({{12, u"Karsa erwacht"_s, OpenList}, {3, u"gleiche Geschichte"_s, OtherList},

@@ -46,10 +46,6 @@ struct Fixture {
         list->setCurrentItem(Row(enumber));
         QTest::keyClick(list, Qt::Key_Return);
     }
-    void Click(int enumber) const
-    {
-        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(Row(enumber)).center());
-    }
     TempCollection collection;
     QDialog window; // stands in for the detail window, to see where Esc goes
     StatusPanel* panel = nullptr;
@@ -64,27 +60,6 @@ class TestStatusPanel : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void loadShowsAllRows()
-    {
-        Fixture f;
-        QCOMPARE(f.list->topLevelItemCount(), 19);
-        QCOMPARE(f.Row(12)->text(1), u"Coverausführung"_s);
-        QStringList shown;
-        for (int enumber = 1; enumber <= 19; ++enumber)
-            shown << f.Shown(enumber);
-        QCOMPARE(shown.mid(0, 6), (QStringList{u"2024-01-02 um 10:11:12"_s, u"120"_s, u"gut"_s,
-                                              u"Kiosk am Markt"_s, u"3.5"_s, QString()}));
-        QCOMPARE(shown.mid(6).join(QString()), QString());
-        QCOMPARE(f.panel->StoredValue(5), u"00003.5"_s);
-        // Another entry starts from empty rows.
-        f.panel->LoadStatusList(8);
-        QCOMPARE(f.Shown(3), u"sehr gut"_s);
-        QCOMPARE(f.Shown(5), QString());
-        f.panel->LoadStatusList(7);
-        f.OpenWithEnter(6);
-        f.panel->grab().save(u"/tmp/status-panel.png"_s);
-    }
-
     // Keys that don't belong to the attribute never reach the box; Enter
     // takes the value into the row in its shown form.
     void typeAndEnter_data()

@@ -30,52 +30,6 @@ class TestEntryList : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void sortClicks_data()
-    {
-        QTest::addColumn<QList<int>>("clicks");
-        QTest::addColumn<bool>("descending");
-        QTest::addColumn<QString>("firstNr");
-        QTest::addColumn<SortPicture>("picture");
-        QTest::newRow("Nr first sorts downward") << QList<int>{0} << true << u"40"_s << SortPicture::Down;
-        QTest::newRow("new column starts downward") << QList<int>{0, 1} << true << u"1"_s << SortPicture::Down;
-        QTest::newRow("back to Nr starts downward again") << QList<int>{1, 1, 0} << true << u"40"_s << SortPicture::Down;
-    }
-    void sortClicks()
-    {
-        QFETCH(QList<int>, clicks);
-        QFETCH(bool, descending);
-        QFETCH(QString, firstNr);
-        QFETCH(SortPicture, picture);
-        TempCollection collection;
-        collection.Add(Entries(40));
-        EntryList list;
-        list.Heftliste.SetVisibleRows(10);
-        LoadEntryList(collection, list, list.Heftliste);
-        list.FindAndShowRow(25);
-        QSignalSpy panels(&list, &EntryList::StatusPanelChanged);
-        for (int col : clicks)
-            list.GridClick(0, col);
-
-        const EntryGrid& grid = list.Heftliste;
-        QCOMPARE(list.SortColumn, clicks.last());
-        QCOMPARE(list.SortDescending, descending);
-        QCOMPARE(grid.TextMatrix(1, ColNr), firstNr);
-        for (int col = 0; col < EntryColumnCount; ++col) {
-            QCOMPARE(grid.Model().HeaderBold(col), col == clicks.last());
-            QCOMPARE(grid.Model().HeaderPicture(col), col == clicks.last() ? picture : SortPicture::None);
-        }
-        // The selected entry stays current and in sight.
-        QCOMPARE(grid.TextMatrix(grid.Row(), ColNr), u"25"_s);
-        QVERIFY(grid.Row() >= grid.TopRow() && grid.Row() < grid.TopRow() + grid.VisibleRows());
-        QList<QVariantList> panel5;
-        for (const QVariantList& call : panels)
-            if (call[0].toInt() == 5)
-                panel5 << call;
-        QCOMPARE(panel5.size(), 2 * clicks.size());
-        QCOMPARE(panel5.first()[1].toString(), u"Sortiere nach %1 ..."_s.arg(EntryGridModel::HeaderText(clicks.first())));
-        QCOMPARE(panel5.last()[1].toString(), u"Fertig und Bereit."_s);
-    }
-
     void removeEntryRows()
     {
         TempCollection collection;

@@ -30,32 +30,10 @@ struct SplashFixture {
         collection.session.Config.SplashFile = u"Splash.svg"_s;
     }
     QString Bm(const QString& name) const { return collection.dir.filePath(u"bm/"_s + name); }
-    void Put(const QString& name, const QByteArray& content) const
-    {
-        QFile file(Bm(name));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(content);
-    }
-    QString LogText() const
-    {
-        QFile log(collection.session.log.Path());
-        return log.open(QIODevice::ReadOnly) ? QString::fromUtf8(log.readAll()) : QString();
-    }
     Session& session() { return collection.session; }
 
     TempCollection collection;
 };
-
-// A real 100 x 50 picture, as a user would put it into bm/.
-QByteArray RedPng()
-{
-    QImage red(100, 50, QImage::Format_RGB32);
-    red.fill(Qt::red);
-    QBuffer buffer;
-    buffer.open(QIODevice::WriteOnly);
-    red.save(&buffer, "PNG");
-    return buffer.data();
-}
 
 // Runs the window modal, as the about command does, while act() closes it;
 // gives up after two seconds so that a window that stays does not hang.
@@ -77,52 +55,6 @@ class TestSplash : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void splashImage_data()
-    {
-        QTest::addColumn<QString>("splashFile");
-        QTest::addColumn<QString>("put"); // a file put into bm/ beside the shipped images
-        QTest::addColumn<QByteArray>("content");
-        QTest::addColumn<QSize>("shown");
-        QTest::addColumn<int>("logCode"); // 0: nothing logged
-
-        const QSize shipped(480, 300);
-        const QSize own(480, 240); // the red picture fitted into the frame
-        QTest::newRow("shipped drawing") << u"Splash.svg"_s << QString() << QByteArray() << shipped << 0;
-        QTest::newRow("undecodable metafile beside the drawing")
-            << u"Splash.wmf"_s << u"Splash.wmf"_s << QByteArray("\xd7\xcd\xc6\x9a not a picture") << shipped << 0;
-        QTest::newRow("a picture comes before a drawing") << u"Splash.wmf"_s << u"Splash.png"_s << RedPng() << own << 0;
-        QTest::newRow("own picture under an old name") << u"Titel.wmf"_s << u"Titel.png"_s << RedPng() << own << 0;
-        QTest::newRow("missing file") << u"Titelbild.jpg"_s << QString() << QByteArray() << shipped << 53;
-        QTest::newRow("broken picture") << u"Kaputt.png"_s << u"Kaputt.png"_s << QByteArray("\x89PNG broken") << shipped << 481;
-    }
-    void splashImage()
-    {
-        QFETCH(QString, splashFile);
-        QFETCH(QString, put);
-        QFETCH(QByteArray, content);
-        QFETCH(QSize, shown);
-        QFETCH(int, logCode);
-        SplashFixture fixture;
-        if (!put.isEmpty())
-            fixture.Put(put, content);
-        fixture.session().Config.SplashFile = splashFile;
-
-        SplashWindow window(fixture.session());
-        QVERIFY(window.LoadImages());
-
-        const QPixmap pixmap = window.findChild<QLabel*>(u"imgLogo"_s)->pixmap();
-        QCOMPARE(pixmap.deviceIndependentSize().toSize(), shown);
-        const QString log = fixture.LogText();
-        if (logCode == 0) {
-            QVERIFY2(log.isEmpty(), qPrintable(log));
-        } else {
-            QCOMPARE(log.count(u"[Fehler"_s), 1);
-            QVERIFY(log.contains(u"[Fehler %1]\r\nKeine Splash Bild-Datei! --> Versuche Default\r\n"_s.arg(logCode)));
-            QVERIFY(log.contains(QDir::toNativeSeparators(fixture.collection.dir.filePath(u"bm"_s))));
-        }
-        QVERIFY(fixture.collection.prompter.asked.isEmpty());
-    }
-
     void closes_data()
     {
         QTest::addColumn<QString>("target"); // empty: a key press
