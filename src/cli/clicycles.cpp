@@ -2,6 +2,7 @@
 // cycle file as the cycle window's export does and prints its closing message.
 
 #include "cliexchange.h"
+#include "clihelp.h"
 
 #include "core/database.h"
 #include "cycles/cycleexport.h"
@@ -44,10 +45,8 @@ QString DataFolderOf(const QFileInfo& cycleFile)
 int CyclesCommand(const QStringList& arguments, QTextStream& out, QTextStream& err)
 {
     const QString path = arguments.value(1);
-    if (path.isEmpty() || arguments.value(2) != u"cycles" || arguments.value(3) != u"export") {
-        err << u"Aufruf: heftarium-cli --cycle-db DATEI cycles export [--series SERIE]\n"_s;
-        return 2;
-    }
+    if (path.isEmpty() || arguments.value(2) != u"cycles" || arguments.value(3) != u"export")
+        return UsageError(err, u"cycles"_s);
     const QFileInfo cycleFile(path);
     const QString series = SeriesOf(arguments, cycleFile);
     if (series.isEmpty()) {
