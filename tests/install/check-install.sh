@@ -41,7 +41,9 @@ grep -q '^Serie: Valdorin$' <<<"$info" && grep -q '^Einträge: [1-9]' <<<"$info"
 # page as it is.
 flat() { sed 's/\xe2\x88\x92/-/g; s/‐/-/g' | tr -s ' \n' '  '; }
 manual=$(groff -k -man -Tutf8 -rLL=250n -rHY=0 -P-cbou "$prefix/share/man/man1/heftarium-cli.1" | flat)
-for command in $("$cli" --help | sed -n 's/^  heftarium-cli \(--[a-z-]* DATEI \)\?\([a-z]*\) .*/\2/p' | sort -u); do
+commands=$("$cli" --help | sed -n 's/^  heftarium-cli \(--[a-z-]* DATEI \)\?\([a-z]\+\)\( .*\)\?$/\2/p' | sort -u)
+[ -n "$commands" ] || fail "heftarium-cli --help nennt keinen Befehl"
+for command in $commands; do
   text=$("$cli" "$command" --help | tail -n +2 | flat)
   [[ "$manual" == *"$text"* ]] || fail "die Manpage weicht von \"$command --help\" ab: $text"
 done
