@@ -81,7 +81,7 @@ QString CommandBlock(const CliCommandHelp& command, qsizetype indent)
     const QString margin(indent, u' ');
     QString text;
     for (const QString& synopsis : command.synopses)
-        text += Wrapped(synopsis, indent + 4, QString(indent, u' '));
+        text += Wrapped(synopsis, indent + 4, margin);
     text += u'\n' + Wrapped(command.description, indent);
     if (!command.options.isEmpty())
         text += u'\n' + margin + u"Optionen:\n"_s + OptionsTable(command.options, indent + 2);
