@@ -1,5 +1,6 @@
 #include "clicommands.h"
 #include "cliexchange.h"
+#include "clistats.h"
 #include "clifilterwords.h"
 #include "clihelp.h"
 
@@ -244,6 +245,8 @@ int RunCli(const QStringList& arguments, QTextStream& out, QTextStream& err)
         return ImportCommand(session, arguments.mid(3), out, err);
     if (command == u"export")
         return ExportCommand(session, arguments.mid(3), out, err);
+    if (command == u"stats")
+        return StatsCommand(session, arguments.mid(3), out, err);
     return UsageError(err, command);
 }
 

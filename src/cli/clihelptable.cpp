@@ -65,6 +65,17 @@ const QList<CliCommandHelp>& CliCommands()
           {u"--gelesen"_s, u"mit der Spalte GL in Text und HTML"_s},
           {u"--zyklus"_s, u"behält „-“ und „- - -“ in Text und HTML"_s}},
          {{1, u"Die Abfrage ist gescheitert, oder der Ordner von BASIS fehlt."_s}}},
+        {u"stats"_s,
+         {u"heftarium-cli --db DATEI stats NAME [--author TEXT] [--cycle ZYKLUS] [--preiswert 0|1|2] [--rows]"_s},
+         u"Gibt eine Statistik wie das Statistikfenster aus; NAME ist einer ihrer Namen im Fenster, z. B. "
+         "Autor/Zyklen oder Preis/Wert."_s,
+         {{u"--author TEXT"_s, u"der Autor für Autor/Zyklen; ohne die Option der letzte der Liste"_s},
+          {u"--cycle ZYKLUS"_s, u"der Zyklus für Zyklus/Autoren; ohne die Option der erste"_s},
+          {u"--preiswert 0|1|2"_s, u"das Diagramm von Preis/Wert: 0 die Preise, 1 die Werte, 2 Wert gegen Preis"_s},
+          {u"--rows"_s, u"danach die Zeilen des Diagramms: Reihe, Beschriftung und Wert, durch Tabulatoren getrennt"_s}},
+         {{1, u"Die Konfiguration ist nicht lesbar."_s},
+          {2, u"Statistik, Autor, Zyklus oder Angabe für --preiswert ist unbekannt; die möglichen stehen auf der "
+              "Fehlerausgabe."_s}}},
         {u"cycles"_s,
          {u"heftarium-cli --cycle-db DATEI cycles export [--series SERIE]"_s},
          u"Schreibt die Zyklen der Zyklus-Datenbank DATEI wie das Zyklusfenster nach export/{Serie}-Zyklus.dat im "
