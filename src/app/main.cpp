@@ -13,6 +13,7 @@
 #include "filter/filtermode.h"
 #include "mainwin/mainwindow.h"
 #include "mainwin/splashwindow.h"
+#include "print/ui/printwindowinstall.h"
 
 #include <QApplication>
 #include <QLocale>
@@ -57,6 +58,7 @@ int main(int argc, char** argv)
     heft::InstallDetailWindow(window);
     heft::InstallFilterMode(window);
     heft::InstallCycleWindow(window);
+    heft::InstallPrintWindow(window);
     heft::InstallImportWindow(window);
     heft::InstallExportWindow(window);
     splash.close();

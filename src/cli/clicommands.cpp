@@ -1,6 +1,7 @@
 #include "clicommands.h"
 #include "cliexchange.h"
 #include "clifilterwords.h"
+#include "cliprint.h"
 
 #include "core/config.h"
 #include "core/schema.h"
@@ -29,6 +30,8 @@ const QString Usage = u"Aufruf:\n"
                       "  heftarium-cli --db DATEI import DATEI [--mode 0|1|2] [--details]\n"
                       "  heftarium-cli --db DATEI export BASIS --format dat,txt,html [--details] [--gelesen] [--zyklus]"
                       " [FELD:VERGLEICH:WERT ...]\n"
+                      "  heftarium-cli --db DATEI print matrix|list|filter [--from N] [--to N] [--landscape] [--toner]"
+                      " [--no-auflage] [--no-zustand] [--zustand-immer] --pdf DATEI.pdf [FELD:VERGLEICH:WERT ...]\n"
                       "  heftarium-cli --cycle-db DATEI cycles export [--series SERIE]\n"_s;
 
 // The value behind an option such as "--series"; empty if absent.
@@ -256,6 +259,8 @@ int RunCli(const QStringList& arguments, QTextStream& out, QTextStream& err)
         return ImportCommand(session, arguments.mid(3), out, err);
     if (command == u"export")
         return ExportCommand(session, arguments.mid(3), out, err);
+    if (command == u"print")
+        return PrintCommand(session, arguments.mid(3), out, err);
     err << CliUsage();
     return 2;
 }
