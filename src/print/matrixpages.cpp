@@ -7,6 +7,7 @@
 #include "printpage.h"
 
 #include "core/session.h"
+#include "core/textfuncs.h"
 
 using namespace Qt::StringLiterals;
 
