@@ -110,6 +110,18 @@ struct Drawing {
     }
 };
 
+PrintRequest Request(PrintKind kind, int from, int to, MatrixOptions options = {}, QImage logo = {})
+{
+    PrintRequest request;
+    request.kind = kind;
+    request.from = from;
+    request.to = to;
+    request.matrix = options;
+    request.highestNr = 150;
+    request.logo = std::move(logo);
+    return request;
+}
+
 } // namespace
 
 class TestPrintPages : public QObject {
@@ -125,7 +137,8 @@ private Q_SLOTS:
                           {150, u"Emil"_s, u"Letzter"_s, 1}});
         m_collection.Exec(u"INSERT INTO Status (Nr, ENum, StatusWert) VALUES (1, 3, '2 gut');"_s);
         m_collection.Exec(u"INSERT INTO Status (Nr, ENum, StatusWert) VALUES (5, 4, 'Lager');"_s);
-        m_collection.session.Config = {u"Valdorin"_s, u"Heftromane"_s};
+        m_collection.session.Config.SeriesName = u"Valdorin"_s;
+        m_collection.session.Config.ListKind = u"Heftromane"_s;
     }
 
     void matrixPage_data()
@@ -137,12 +150,12 @@ private Q_SLOTS:
         QTest::addColumn<int>("numbers");      // number texts in the cells
         QTest::addColumn<QString>("head");
         const MatrixOptions marks;
-        QTest::newRow("first page starts at 0") << 1 << marks << QList<int>{0, 1, 5} << QStringList{u"1:1"_s, u"1:2"_s, u"5:3"_s}
-                                                 << 99 << u"1-99"_s;
+        QTest::newRow("first page starts at 0")
+            << 1 << marks << QList<int>{0, 1, 5} << QStringList{u"1:1"_s, u"1:2"_s, u"5:3"_s} << 100 << u"1-99"_s;
         QTest::newRow("unknown state always") << 1 << MatrixOptions{false, true, true, true} << QList<int>{0, 1, 5}
-                                              << QStringList{u"1:1"_s, u"1:2"_s, u"5:3"_s, u"5:?"_s} << 99 << u"1-99"_s;
+                                              << QStringList{u"1:1"_s, u"1:2"_s, u"5:3"_s, u"5:?"_s} << 100 << u"1-99"_s;
         QTest::newRow("no marks") << 1 << MatrixOptions{false, false, false, true} << QList<int>{0, 1, 5}
-                                  << QStringList() << 99 << u"1-99"_s;
+                                  << QStringList() << 100 << u"1-99"_s;
         QTest::newRow("last hundred ends at the highest")
             << 100 << marks << QList<int>{120, 150} << QStringList{u"120:2"_s, u"150:1"_s} << 51 << u"100-199"_s;
     }
@@ -151,7 +164,7 @@ private Q_SLOTS:
     {
         QFETCH(int, from);
         QFETCH(MatrixOptions, options);
-        PrintRequest request{PrintKind::Matrix, false, from, from == 1 ? 99 : from + 99, options, {}, {}, 150, {}};
+        const PrintRequest request = Request(PrintKind::Matrix, from, from == 1 ? 99 : from + 99, options);
         const Drawing drawing(m_collection.session, request);
         QCOMPARE(drawing.result, 1);
         QList<int> crossed;
@@ -175,7 +188,7 @@ private Q_SLOTS:
     // keeps every text and mark.
     void tonerSaving()
     {
-        PrintRequest request{PrintKind::Matrix, false, 1, 199, {}, {}, {}, 150, QImage(8, 8, QImage::Format_RGB32)};
+        PrintRequest request = Request(PrintKind::Matrix, 1, 199, {}, QImage(8, 8, QImage::Format_RGB32));
         const Drawing colour(m_collection.session, request);
         request.matrix.tonerSaving = true;
         const Drawing saving(m_collection.session, request);
@@ -196,15 +209,15 @@ private Q_SLOTS:
         QTest::addColumn<QStringList>("lines"); // the first two body lines
         QTest::addColumn<QString>("footer");
         QTest::newRow("range with gaps")
-            << PrintRequest{PrintKind::WholeList, false, 1, 6} << 1
+            << Request(PrintKind::WholeList, 1, 6) << 1
             << QStringList{u"   1 Ann Autor                 Erster Titel                                        1         I Ja   Knick"_s,
-                           u"   2 Bert                      Ohne Auflage                                        -      - - - Nein "_s}
+                           u"   2 Bert                      Ohne Auflage                                        -     - - - Nein "_s}
             << u"Valdorin Heftromane Nummer 1-6"_s;
-        PrintRequest filter{PrintKind::FilterList};
+        PrintRequest filter = Request(PrintKind::FilterList, 0, 0);
         filter.filterRows = {{u"7"_s, u"Zoe"_s, u"Gefiltert"_s, u""_s, u"? ? ?"_s, u"\u00fc"_s, u""_s}};
         filter.filterText = u"Titel ähnlich wie '*Gef*' "_s;
         QTest::newRow("filter list") << filter << 1
-                                     << QStringList{u"   7 Zoe                       Gefiltert                                           -      ? ? ? Ja   "_s}
+                                     << QStringList{u"   7 Zoe                       Gefiltert                                           -     ? ? ? Ja   "_s}
                                      << u"Valdorin Heftromane gefiltert nach: Titel ähnlich wie '*Gef*' "_s;
     }
 
@@ -230,7 +243,7 @@ private Q_SLOTS:
         for (int nr = 1; nr < 400; nr += 2)
             entries.append({nr, u"A"_s, u"T"_s});
         big.Add(entries);
-        const Drawing drawing(big.session, PrintRequest{PrintKind::WholeList, false, 1, 399});
+        const Drawing drawing(big.session, Request(PrintKind::WholeList, 1, 399));
         QCOMPARE(drawing.page.pages, drawing.result);
         QList<int> linesPerPage(drawing.result + 1);
         for (const DrawnText& text : drawing.page.texts)
@@ -244,7 +257,7 @@ private Q_SLOTS:
 
     void emptyRangeTellsAndAborts()
     {
-        const Drawing drawing(m_collection.session, PrintRequest{PrintKind::WholeList, false, 3, 4});
+        const Drawing drawing(m_collection.session, Request(PrintKind::WholeList, 3, 4));
         QCOMPARE(drawing.result, 0);
         QVERIFY(drawing.page.Aborted());
         const Message told = m_collection.prompter.asked.takeLast();

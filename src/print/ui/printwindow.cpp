@@ -170,7 +170,7 @@ void PrintWindow::PreparePrinter(QPrinter& printer) const
     printer.setPageOrientation(m_ui->chk_landscape->isChecked() ? QPageLayout::Landscape : QPageLayout::Portrait);
 }
 
-bool PrintWindow::RunPages(QPrinter& printer, const QString& word)
+bool PrintWindow::RunPages(QPrinter& printer, const QString& word, bool cancelJob)
 {
     QPainter painter;
     if (!painter.begin(&printer)) {
@@ -194,7 +194,7 @@ bool PrintWindow::RunPages(QPrinter& printer, const QString& word)
     PrintOrPreview(m_main.CurrentSession(), page, Request(), word, feedback);
     m_page = nullptr;
     m_lastRunAborted = page.Aborted();
-    if (m_lastRunAborted)
+    if (m_lastRunAborted && cancelJob)
         printer.abort();
     painter.end();
     return !m_lastRunAborted;
@@ -211,7 +211,7 @@ void PrintWindow::PreviewClick()
     preview->setWindowTitle(m_previewPrinter->docName());
     preview->setAttribute(Qt::WA_DeleteOnClose);
     connect(preview, &QPrintPreviewDialog::paintRequested, this,
-            [this](QPrinter* printer) { RunPages(*printer, u"vorschau"_s); });
+            [this](QPrinter* printer) { RunPages(*printer, u"vorschau"_s, false); });
     // The pages are drawn before the preview shows, so that an aborted run
     // or an empty range shows no preview at all.
     preview->findChild<QPrintPreviewWidget*>()->updatePreview();
@@ -232,7 +232,7 @@ void PrintWindow::PrintClick()
     PreparePrinter(printer);
     QPrintDialog dialog(&printer, this);
     if (dialog.exec() == QDialog::Accepted)
-        RunPages(printer, u"erdaten"_s);
+        RunPages(printer, u"erdaten"_s, true);
 }
 
 void PrintWindow::PdfClick()
@@ -245,7 +245,7 @@ void PrintWindow::PdfClick()
     PreparePrinter(printer);
     printer.setOutputFormat(QPrinter::PdfFormat);
     printer.setOutputFileName(path);
-    if (RunPages(printer, u"erdaten"_s))
+    if (RunPages(printer, u"erdaten"_s, false))
         m_main.SetStatusPanel(StatusPanel, u"PDF gespeichert: "_s + QDir::toNativeSeparators(path));
     else
         QFile::remove(path);

@@ -51,7 +51,9 @@ private:
     void ZustandChanged();
     void PreparePrinter(QPrinter& printer) const;
     // Draws every page onto the printer; false when the run was aborted.
-    bool RunPages(QPrinter& printer, const QString& word);
+    // cancelJob: an aborted run cancels the printer's job (a preview has
+    // none, a PDF file is removed by the caller).
+    bool RunPages(QPrinter& printer, const QString& word, bool cancelJob);
 
     MainWindow& m_main;
     std::unique_ptr<Ui::PrintWindow> m_ui;
