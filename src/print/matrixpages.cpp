@@ -94,8 +94,9 @@ private:
                              true);
             m_page.SetTextColor(Qt::white);
         }
-        m_page.SetFont(u"Garamond"_s, HundredFontHeight);
         const QString hundred = u"%1-%2"_s.arg(m_from == 0 ? 1 : m_from).arg(m_to);
+        m_page.SetFont(u"Garamond"_s,
+                       FittingFont(u"Garamond"_s, HundredFontHeight, hundred, CentreWidth - 6 * Gap));
         // The figures stand in the middle of the band, whatever the face's
         // ascent and descent.
         const QRect figures = m_page.TextBounds(hundred);
@@ -117,19 +118,20 @@ private:
         }
     }
 
-    // The numbers must fit their cells: on narrow paper a four-digit number
-    // gets a smaller font than the usual one.
-    int CellFontFor(const QString& widest)
+    // The font height at which the text takes at most room, but never more
+    // than the usual height: on narrow paper four-digit numbers get smaller.
+    int FittingFont(const QString& face, int height, const QString& text, int room)
     {
-        m_page.SetFont(Face, CellFontHeight);
-        const int room = static_cast<int>(m_cellWidth) - 2 * Gap;
-        const int width = m_page.MeasureText(widest).width();
-        return width <= room ? CellFontHeight : CellFontHeight * room / width;
+        m_page.SetFont(face, height);
+        const int width = m_page.MeasureText(text).width();
+        return width <= room ? height : height * room / width;
     }
 
     void DrawCells()
     {
-        const int cellFont = CellFontFor(QString::number(MinOf(m_to, m_context.request.highestNr)));
+        // A number keeps a quarter of its cell free around it.
+        const int cellFont = FittingFont(Face, CellFontHeight, QString::number(MinOf(m_to, m_context.request.highestNr)),
+                                         static_cast<int>(m_cellWidth * 3 / 4));
         m_page.SetFont(Face, cellFont);
         m_page.SetPen(8);
         const int h = m_page.MeasureText(u"1"_s).height();

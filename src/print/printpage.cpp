@@ -19,13 +19,16 @@ constexpr double UnitsPerDecipoint = UnitsPerInch / 720.0;
 // Ink for filled shapes: the bands and tags of the check sheet.
 const QColor Ink(Qt::black);
 
-// The faces the pages ask for are served by free, metric-compatible fonts.
+// The faces the pages ask for are served by free fonts. Garamond only ever
+// sets the hundreds in the head of the check sheet; EB Garamond draws its
+// figures in old style (1100 reads like "IIOO") and Qt cannot switch on its
+// lining figures, so a serif with lining figures stands in.
 QString FontFamily(const QString& face)
 {
     if (face == u"Courier New")
         return u"Liberation Mono"_s;
     if (face == u"Garamond")
-        return u"EB Garamond"_s;
+        return u"Liberation Serif"_s;
     return face;
 }
 
