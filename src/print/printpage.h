@@ -75,14 +75,9 @@ public:
     virtual void Bitmap(const QImage& image, const QRect& box);
 
 protected:
-    QPainter& Painter() { return m_painter; }
     QColor TextColor() const { return m_textColor; }
-    TextAlign Alignment() const { return m_align; }
-    int FontAngle() const { return m_angle; }
 
 private:
-    void PrepareNewPage();
-
     QPainter& m_painter;
     QPagedPaintDevice* m_device;
     int m_width = 0;

@@ -9,7 +9,6 @@
 #include <QFile>
 #include <QProcess>
 #include <QRegularExpression>
-#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -33,8 +32,6 @@ class TestCliPrint : public QObject {
 private Q_SLOTS:
     void initTestCase()
     {
-        if (QStandardPaths::findExecutable(u"pdftotext"_s).isEmpty())
-            QSKIP("poppler-utils fehlt");
         const QDir shipped(QStringLiteral(HEFTARIUM_RUNTIME_DIR));
         QDir(m_dir.path()).mkpath(u"DBs"_s);
         QDir(m_dir.path()).mkpath(u"bm"_s);
