@@ -45,14 +45,14 @@ private Q_SLOTS:
         QTest::addColumn<QString>("size");
         QTest::addColumn<QStringList>("lines"); // pdftotext lines, blanks squeezed
         QTest::newRow("first matrix page")
-            << QStringList{u"matrix"_s, u"--to"_s, u"99"_s} << u"595.276 x 841.89 pts (A4)"_s
+            << QStringList{u"matrix"_s, u"--to"_s, u"99"_s} << u"595 x 842 pts (A4)"_s
             << QStringList{u"1-99"_s, u"1 2 3 4 5 6 7 8 9"_s, u"10 11 12 13 14 15 16 17 18 19"_s,
                            u"90 91 92 93 94 95 96 97 98 99"_s};
         QTest::newRow("list in landscape")
-            << QStringList{u"list"_s, u"--landscape"_s} << u"841.89 x 595.276 pts (A4)"_s
+            << QStringList{u"list"_s, u"--landscape"_s} << u"842 x 595 pts (A4)"_s
             << QStringList{u"Nr Autor Titel AL Zyklus GL Bemerkung"_s, u"Valdorin Heftromane Nummer 1-"_s};
         QTest::newRow("filter list")
-            << QStringList{u"filter"_s, u"Nr:KLEINER:11"_s} << u"595.276 x 841.89 pts (A4)"_s
+            << QStringList{u"filter"_s, u"Nr:KLEINER:11"_s} << u"595 x 842 pts (A4)"_s
             << QStringList{u"Valdorin Heftromane gefiltert nach: Nummer kleiner als 11"_s, u"Seite 1 von 1"_s};
     }
 
