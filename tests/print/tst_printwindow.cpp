@@ -5,7 +5,7 @@
 #include "testmain.h"
 #include "testsupport.h"
 
-#include "mainwin/mainwindow.h"
+#include "mainwin/ui/mainwindow.h"
 #include "print/ui/printwindow.h"
 #include "print/ui/printwindowinstall.h"
 

@@ -5,9 +5,9 @@
 
 #include "core/session.h"
 #include "core/textfuncs.h"
-#include "filter/filtermode.h"
+#include "filter/ui/filtermode.h"
 #include "mainwin/imageloading.h"
-#include "mainwin/mainwindow.h"
+#include "mainwin/ui/mainwindow.h"
 
 #include <QDir>
 #include <QFile>

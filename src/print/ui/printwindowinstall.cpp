@@ -2,7 +2,7 @@
 
 #include "printwindow.h"
 
-#include "mainwin/mainwindow.h"
+#include "mainwin/ui/mainwindow.h"
 
 using namespace Qt::StringLiterals;
 
