@@ -3,6 +3,7 @@
 #include "clistats.h"
 #include "clifilterwords.h"
 #include "clihelp.h"
+#include "cliprint.h"
 
 #include "core/config.h"
 #include "core/schema.h"
@@ -247,6 +248,8 @@ int RunCli(const QStringList& arguments, QTextStream& out, QTextStream& err)
         return ExportCommand(session, arguments.mid(3), out, err);
     if (command == u"stats")
         return StatsCommand(session, arguments.mid(3), out, err);
+    if (command == u"print")
+        return PrintCommand(session, arguments.mid(3), out, err);
     return UsageError(err, command);
 }
 

@@ -1,6 +1,7 @@
 // heftarium-cli --cycle-db PATH cycles export [--series NAME]: writes the
 // cycle file as the cycle window's export does and prints its closing message.
 
+#include "clicommands.h"
 #include "cliexchange.h"
 #include "clihelp.h"
 
@@ -30,17 +31,15 @@ QString SeriesOf(const QStringList& arguments, const QFileInfo& cycleFile)
     return name.endsWith(CycleFileSuffix) ? name.chopped(CycleFileSuffix.size()) : QString();
 }
 
-// The cycle file lies in the data folder's DBs folder; a file elsewhere
-// takes its own folder as the data folder.
-QString DataFolderOf(const QFileInfo& cycleFile)
+} // namespace
+
+QString DataFolderOf(const QFileInfo& databaseFile)
 {
-    QDir folder = cycleFile.absoluteDir();
+    QDir folder = databaseFile.absoluteDir();
     if (folder.dirName() == u"DBs" && folder.cdUp())
         return folder.path();
-    return cycleFile.absolutePath();
+    return databaseFile.absolutePath();
 }
-
-} // namespace
 
 int CyclesCommand(const QStringList& arguments, QTextStream& out, QTextStream& err)
 {

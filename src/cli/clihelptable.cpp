@@ -76,6 +76,20 @@ const QList<CliCommandHelp>& CliCommands()
          {{1, u"Die Konfiguration ist nicht lesbar."_s},
           {2, u"Statistik, Autor, Zyklus oder Angabe für --preiswert ist unbekannt; die möglichen stehen auf der "
               "Fehlerausgabe."_s}}},
+        {u"print"_s,
+         {u"heftarium-cli --db DATEI print matrix|list|filter [--from N] [--to N] [--landscape] [--toner] "
+          "[--no-auflage] [--no-zustand] [--zustand-immer] --pdf DATEI.pdf [FELD:VERGLEICH:WERT ...]"_s},
+         u"Schreibt die Seiten des Druckfensters als A4-PDF: die Matrix zum Abhaken, die ganze Liste oder die "
+         "Filterliste der Kriterien (wie beim Befehl filter), und gibt die Zahl der Seiten aus."_s,
+         {{u"--from N, --to N"_s, u"der Bereich der Nummern; ohne die Optionen jedes Hundert der Matrix oder die "
+                                  "ganze Liste"_s},
+          {u"--landscape"_s, u"Querformat"_s},
+          {u"--toner"_s, u"Matrix tonersparend, ohne gefüllte Flächen"_s},
+          {u"--no-auflage, --no-zustand"_s, u"Matrix ohne die Marke der Auflage oder des Zustands"_s},
+          {u"--zustand-immer"_s, u"die Marke des Zustands auch bei Einträgen, die Du nicht hast"_s},
+          {u"--pdf DATEI.pdf"_s, u"die Datei, in die die Seiten geschrieben werden"_s}},
+         {{1, u"Die Datei ließ sich nicht schreiben, oder der Bereich enthält keine Seite."_s},
+          {2, u"Ausgabe, Bereich oder Kriterien sind ungültig."_s}}},
         {u"cycles"_s,
          {u"heftarium-cli --cycle-db DATEI cycles export [--series SERIE]"_s},
          u"Schreibt die Zyklen der Zyklus-Datenbank DATEI wie das Zyklusfenster nach export/{Serie}-Zyklus.dat im "

@@ -15,6 +15,7 @@
 #include "filter/ui/filtermode.h"
 #include "mainwin/ui/mainwindow.h"
 #include "mainwin/ui/splashwindow.h"
+#include "print/ui/printwindowinstall.h"
 #include "stats/ui/statwindowinstall.h"
 
 #include <QApplication>
@@ -91,6 +92,7 @@ int main(int argc, char** argv)
     heft::InstallDetailWindow(window);
     heft::InstallFilterMode(window);
     heft::InstallCycleWindow(window);
+    heft::InstallPrintWindow(window);
     heft::InstallImportWindow(window);
     heft::InstallExportWindow(window);
     heft::InstallStatisticsWindow(window);
