@@ -86,7 +86,7 @@ const QList<CliCommandHelp>& CliCommands()
           {u"--landscape"_s, u"Querformat"_s},
           {u"--toner"_s, u"Matrix tonersparend, ohne gefüllte Flächen"_s},
           {u"--no-auflage, --no-zustand"_s, u"Matrix ohne die Marke der Auflage oder des Zustands"_s},
-          {u"--zustand-immer"_s, u"die Marke des Zustands auch bei Einträgen, die Du nicht hast"_s},
+          {u"--zustand-immer"_s, u"die Marke des Zustands auch dann, wenn der Zustand unbekannt ist"_s},
           {u"--pdf DATEI.pdf"_s, u"die Datei, in die die Seiten geschrieben werden"_s}},
          {{1, u"Die Datei ließ sich nicht schreiben, oder der Bereich enthält keine Seite."_s},
           {2, u"Ausgabe, Bereich oder Kriterien sind ungültig."_s}}},
