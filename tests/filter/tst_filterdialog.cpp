@@ -111,22 +111,6 @@ private Q_SLOTS:
         QCOMPARE(open.dialog->IsFilterComplete(), enabled);
     }
 
-    // A joining word opens the next row; "Keine" closes the rows behind it
-    // and resets their joining words.
-    void rowsOpenAndClose()
-    {
-        OpenDialog open;
-        QVERIFY(!open.Find(u"cmb_choose1"_s)->isEnabled());
-        QVERIFY(open.Find(u"cmb_logic2"_s)->isHidden());
-        open.Apply({u"0:type=5"_s, u"0:logic=UND"_s, u"1:type=6"_s, u"1:logic=ODER"_s});
-        QVERIFY(open.Find(u"txt_12"_s)->isEnabled());
-        open.Apply({u"0:logic=Keine"_s});
-        for (const QString& name :
-             {u"cmb_choose1"_s, u"txt_11"_s, u"cmb_logic1"_s, u"cmb_choose2"_s, u"txt_12"_s})
-            QVERIFY2(!open.Find(name)->isEnabled(), qPrintable(name));
-        QCOMPARE(open.Find<QComboBox>(u"cmb_logic1"_s)->currentText(), u"Keine"_s);
-    }
-
     // Each field shows one value editor, its comparison words and entries;
     // a new text box starts empty.
     void editors_data()
@@ -175,55 +159,6 @@ private Q_SLOTS:
         }
     }
 
-    void keys_data()
-    {
-        QTest::addColumn<QString>("field");
-        QTest::addColumn<QString>("kept");
-        QTest::newRow("number: digits") << u"Nr"_s << u"19"_s;
-        QTest::newRow("cycle: digits and roman letters") << u"Zyklus"_s << u"1xIv9M"_s;
-        QTest::newRow("title: anything") << u"Titel"_s << u"1a xIv-9,qM"_s;
-    }
-    void keys()
-    {
-        QFETCH(QString, field);
-        QFETCH(QString, kept);
-        OpenDialog open;
-        open.Apply({u"0:field="_s + field, u"0:type=1a xIv-9,qM"_s});
-        QCOMPARE(open.Find<QLineEdit>(u"txt_10"_s)->text(), kept);
-    }
-
-    // Enter walks on from a value to the joining word or to btn_ausf.
-    void enterMovesOn_data()
-    {
-        QTest::addColumn<QStringList>("steps");
-        QTest::addColumn<QString>("control");
-        QTest::addColumn<QString>("focus");
-        QTest::newRow("typed number") << QStringList{u"0:type=12"_s} << u"txt_10"_s << u"btn_ausf"_s;
-        QTest::newRow("blank number") << QStringList() << u"txt_10"_s << u"txt_10"_s;
-        QTest::newRow("list in row 1") << QStringList{u"0:type=1"_s, u"0:logic=UND"_s, u"1:field=Autor"_s}
-                                       << u"cmb_univ1"_s << u"cmb_logic1"_s;
-        QTest::newRow("date in row 2")
-            << QStringList{u"0:type=1"_s, u"0:logic=UND"_s, u"1:type=2"_s, u"1:logic=UND"_s,
-                           u"2:field=Datum"_s}
-            << u"dtp_datum2"_s << u"btn_ausf"_s;
-        const QStringList read = {u"0:field=Gelesen"_s};
-        QTest::newRow("joining word Keine") << read << u"cmb_logic0"_s << u"btn_ausf"_s;
-        QTest::newRow("joining word UND") << read + QStringList{u"0:logic=UND"_s} << u"cmb_logic0"_s
-                                          << u"cmb_logic0"_s;
-    }
-    void enterMovesOn()
-    {
-        QFETCH(QStringList, steps);
-        QFETCH(QString, control);
-        QFETCH(QString, focus);
-        OpenDialog open;
-        open.Apply(steps);
-        open.Find(control)->setFocus();
-        QTest::keyClick(open.Find(control), Qt::Key_Return);
-        QCOMPARE(open.Focus(), focus);
-        QVERIFY(open.dialog->isVisible());
-    }
-
     // A refused cycle value sends the focus back to its box, and the release
     // of the Enter that ran the command must not send it on again; the
     // corrected value then runs.
@@ -243,14 +178,6 @@ private Q_SLOTS:
         QTest::keyPress(open.Ausf(), Qt::Key_Return);
         QCOMPARE(open.dialog->result(), int(QDialog::Accepted));
         QCOMPARE(open.window.List().Filter.Rows() - 1, 2);
-    }
-
-    // The keyword search belongs to one series.
-    void archiveFrame()
-    {
-        OpenDialog open(u"Sternenfahrer"_s);
-        QVERIFY(!open.Find(u"cmb_aftype"_s)->isEnabled());
-        QCOMPARE(open.Find<QComboBox>(u"cmb_aftype"_s)->currentText(), u"Keine"_s);
     }
 
     // Nothing found, or a condition the database refuses: the message, and
