@@ -154,18 +154,6 @@ private Q_SLOTS:
         QCOMPARE(ordered, (QStringList{u"Ahorn"_s, u"ärger"_s, u"Baum"_s, u"ode"_s, u"Öde"_s, u"Zander"_s}));
     }
 
-    void paddedNumbersStillSortAsNumbers()
-    {
-        TempCollection c;
-        for (const char16_t* value : {u"0000120", u"0012050", u"0000005", u"0000020", u"", u"0012.50"})
-            c.Exec(u"INSERT INTO Status (Nr, ENum, StatusWert) VALUES (1, 5, '%1');"_s.arg(QStringView(value)));
-        Database& db = *c.session.CollectionDb;
-        QCOMPARE(Column(db, u"SELECT StatusWert FROM Status ORDER BY StatusWert;"_s),
-                 (QStringList{u""_s, u"0000005"_s, u"0000020"_s, u"0000120"_s, u"0012.50"_s, u"0012050"_s}));
-        QCOMPARE(Column(db, u"SELECT StatusWert FROM Status WHERE StatusWert>'0000020' AND StatusWert<'0001000';"_s),
-                 QStringList{u"0000120"_s});
-    }
-
     void yesNoColumnsReadMinusOne()
     {
         TempCollection c;

@@ -92,18 +92,6 @@ private Q_SLOTS:
         QCOMPARE(InStr(u"VN12-VN13"_s, what, start), expected);
     }
 
-    void cutting()
-    {
-        const QString text = u"Heftroman"_s;
-        QCOMPARE(Left(text, 4), u"Heft"_s);
-        QCOMPARE(Left(text, 40), text);
-        QCOMPARE(Right(text, 5), u"roman"_s);
-        QCOMPARE(Mid(text, 5), u"roman"_s);
-        QCOMPARE(Mid(text, 5, 3), u"rom"_s);
-        QCOMPARE(Mid(text, 12), QString());
-        QCOMPARE(Trim(u"\t a b  "_s), u"\t a b"_s);
-    }
-
     void arithmetic_data()
     {
         QTest::addColumn<double>("a");
