@@ -67,7 +67,7 @@ bool GenerateCollection(const QString& path, int entries)
     auto db = CreateCollectionFile(path, u"Valdorin"_s, u"Heftromane"_s, &error);
     if (!db)
         return false;
-    db->BeginBulk();
+    db->BeginChange();
     {
         BatchInserter list(*db, u"INSERT INTO HEFTLIST VALUES "_s);
         BatchInserter details(*db, u"INSERT INTO Details VALUES "_s);
@@ -93,7 +93,7 @@ bool GenerateCollection(const QString& path, int entries)
                     nr > k ? nr - k : nr + k));
         }
     }
-    db->EndBulk();
+    db->EndChange();
     return true;
 }
 

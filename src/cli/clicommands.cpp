@@ -1,8 +1,10 @@
 #include "clicommands.h"
 #include "cliexchange.h"
 #include "clifilterwords.h"
+#include "clisafety.h"
 
 #include "core/config.h"
+#include "core/fileproblems.h"
 #include "core/schema.h"
 #include "core/session.h"
 #include "core/sqlwriters.h"
@@ -29,7 +31,10 @@ const QString Usage = u"Aufruf:\n"
                       "  heftarium-cli --db DATEI import DATEI [--mode 0|1|2] [--details]\n"
                       "  heftarium-cli --db DATEI export BASIS --format dat,txt,html [--details] [--gelesen] [--zyklus]"
                       " [FELD:VERGLEICH:WERT ...]\n"
-                      "  heftarium-cli --cycle-db DATEI cycles export [--series SERIE]\n"_s;
+                      "  heftarium-cli --cycle-db DATEI cycles export [--series SERIE]\n"
+                      "  heftarium-cli --db DATEI backup [ZIEL]\n"
+                      "  heftarium-cli --db DATEI check\n"
+                      "  heftarium-cli --db DATEI renumber ALT NEU [ALT NEU ...]\n"_s;
 
 // The value behind an option such as "--series"; empty if absent.
 QString OptionValue(const QStringList& arguments, const QString& option)
@@ -240,7 +245,9 @@ int RunCli(const QStringList& arguments, QTextStream& out, QTextStream& err)
     session.prompter = &prompter;
     session.DataFolder = QFileInfo(arguments[1]).absolutePath();
     if (const DbError error = OpenCollectionDatabase(session, arguments[1])) {
-        err << u"Probleme beim Öffnen der DB: "_s << error.description << u'\n';
+        const QString reason = FileProblemText(error);
+        err << u"Probleme beim Öffnen der DB: "_s << (reason.isEmpty() ? error.description : reason + u' ' + error.description)
+            << u'\n';
         return 1;
     }
     const QString command = arguments[2];
@@ -256,6 +263,12 @@ int RunCli(const QStringList& arguments, QTextStream& out, QTextStream& err)
         return ImportCommand(session, arguments.mid(3), out, err);
     if (command == u"export")
         return ExportCommand(session, arguments.mid(3), out, err);
+    if (command == u"backup" && arguments.size() <= 4)
+        return BackupCommand(session, arguments.mid(3), out, err);
+    if (command == u"check")
+        return CheckCommand(session, out);
+    if (command == u"renumber")
+        return RenumberCommand(session, arguments.mid(3), out, err);
     err << CliUsage();
     return 2;
 }

@@ -3,6 +3,7 @@
 #include "editdialog.h"
 #include "mainwindow.h"
 
+#include "core/changeunit.h"
 #include "core/session.h"
 #include "core/sqlwriters.h"
 #include "core/textfuncs.h"
@@ -65,6 +66,9 @@ void SaveEntry(MainWindow& window)
     const int nr = session.Entry.Nr;
     const int oldNr = session.OldNr;
 
+    // Everything the save writes, renumbering and overwrite included, lands
+    // in the file as one change.
+    ChangeUnit unit(session);
     // The insert always runs first; ExecuteSql turns the duplicate key into
     // the kind of save this is.
     const int result = InsertEntry(session);
@@ -72,12 +76,8 @@ void SaveEntry(MainWindow& window)
         return;
     if (result == ExecuteDone && session.EditMode) {
         // Renumbered to a free number: the entry now stands twice, and the
-        // old row goes with everything that hung on it moved over. Stray
-        // details under the new number must not block the move.
-        DeleteEntry(session, oldNr);
-        DeleteDetails(session, nr);
-        MoveDetails(session, oldNr, nr);
-        MoveDependents(session, oldNr, nr);
+        // old row goes with everything that hung on it moved over.
+        MoveEntryRows(session, oldNr, nr);
         list.RemoveEntryRows(oldNr);
         list.AddGridRow(nr);
     } else if (result > 0) {
@@ -93,6 +93,7 @@ void SaveEntry(MainWindow& window)
             }
             break;
         case ExecuteDeclined:
+            unit.Commit();
             session.EditRetry = true;
             EditEntry(window);
             return;
