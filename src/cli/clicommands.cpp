@@ -225,6 +225,9 @@ int Fill(Session& session, const QStringList& arguments, QTextStream& out, QText
 }
 } // namespace
 
+// The commands on an open collection, behind "--db PATH".
+int RunDbCommand(Session& session, const QStringList& arguments, QTextStream& out, QTextStream& err);
+
 const QString& CliUsage()
 {
     return Usage;
@@ -250,6 +253,16 @@ int RunCli(const QStringList& arguments, QTextStream& out, QTextStream& err)
             << u'\n';
         return 1;
     }
+    const int code = RunDbCommand(session, arguments, out, err);
+    // What the window would have shown in a message box (a change the file
+    // could not take, a backup not made) goes to the error output.
+    for (const Message& message : std::as_const(prompter.asked))
+        err << message.title << u": "_s << message.text << u'\n';
+    return code;
+}
+
+int RunDbCommand(Session& session, const QStringList& arguments, QTextStream& out, QTextStream& err)
+{
     const QString command = arguments[2];
     if (command == u"info")
         return Info(session, out, err);

@@ -37,7 +37,7 @@ bool DatOutputFile::Open(const QString& path)
 
 void DatOutputFile::WriteLine(const QString& line)
 {
-    const QByteArray bytes = ToWindows1252(line) + "\r\n";
+    const QByteArray bytes = ToWindows1252(line, &m_unencodable) + "\r\n";
     if (m_file.write(bytes) != bytes.size())
         m_ok = false;
 }
