@@ -7,8 +7,10 @@
 
 #include "cli/clicommands.h"
 #include "core/collectioncheck.h"
+#include "core/schema.h"
 #include "core/sqlwriters.h"
 #include "core/textfuncs.h"
+#include "cycles/cycleedit.h"
 #include "details/detailsave.h"
 
 #include <QProcess>
@@ -114,7 +116,13 @@ private Q_SLOTS:
         details.Status[3] = value.left(128);
         details.Links = {{2, value.left(128), u"Valdorin"_s}};
         SaveDetails(s, details);
-        // Column fill, filter and import through the cli.
+        // The cycle editor's save.
+        DbError error;
+        s.CycleDb = CreateCycleFile(c.dir.filePath(u"Zyklus.mdb"_s), &error);
+        s.CurrentSql = InsertCycleSql({u"I"_s, u"1"_s, u"50"_s, u"1960"_s, u"1961"_s, value.left(50), value.left(50), 0});
+        QCOMPARE(ExecuteCycleSql(s), 0);
+        QCOMPARE(s.CycleDb->SelectValue(u"SELECT Bezeichnung FROM ZyklusListe;"_s).toString(), value.left(50));
+        // Column fill, filter and export through the cli.
         const QString path = c.Path();
         c.session.CollectionDb.reset();
         QCOMPARE(Run({u"--db"_s, path, u"fill"_s, u"Nr:IST:1"_s, u"--target"_s, u"Lagerort"_s, u"--value"_s, value}),
@@ -125,7 +133,6 @@ private Q_SLOTS:
         const QString base = c.dir.filePath(u"runde"_s);
         QCOMPARE(Run({u"--db"_s, path, u"export"_s, base, u"--format"_s, u"dat"_s, u"--details"_s}), 0);
 
-        DbError error;
         c.session.CollectionDb = Database::Open(path, &error);
         QCOMPARE(c.Value(u"SELECT COUNT(*) FROM HEFTLIST;"_s).toInt(), 2);
         QCOMPARE(c.Value(u"SELECT Autor || Titel || Bemerkung FROM HEFTLIST WHERE Nr=2;"_s).toString(),

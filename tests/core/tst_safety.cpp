@@ -128,6 +128,8 @@ private Q_SLOTS:
         QFETCH(bool, folderGone);
         QFETCH(int, error);
         test::TempCollection c;
+        QTemporaryDir logDir; // the log stays when the collection's folder goes
+        c.session.log = Log(logDir.filePath(u"Heftarium.log"_s));
         c.Add({{1, u"Autor"_s, u"Titel"_s}});
         c.Exec(u"INSERT INTO Details (Nr, Inhalt) VALUES (1, 'Inhalt');"_s);
         RenumberInUnit(c.session, 1, 2); // the day's backup and check happen here
@@ -141,7 +143,7 @@ private Q_SLOTS:
             QVERIFY(QDir().rename(moved, c.dir.path()));
         QCOMPARE(c.prompter.asked.size(), 1);
         QVERIFY(c.prompter.asked[0].text.contains(QDir::toNativeSeparators(c.Path())));
-        QFile log(c.dir.filePath(u"Heftarium.log"_s));
+        QFile log(c.session.log.Path());
         QVERIFY(log.open(QIODevice::ReadOnly) && log.readAll().contains(u"[Fehler %1]"_s.arg(error).toUtf8()));
         // The file stands as before the lost change, and takes the next one.
         QCOMPARE(c.Value(u"SELECT COUNT(*) FROM HEFTLIST WHERE Nr=2;"_s).toInt(), 1);
