@@ -79,7 +79,10 @@ PreparedValue Prepare(const FillRequest& request)
     }
     if (target.enumber != 0 && IsNumericStatus(target.enumber))
         return {{}, StoredStatusValue(target.enumber, NumericFillText(target.enumber, request.text))};
-    return {{}, Trim(request.text)};
+    // An attribute longer than its column would be refused by the file as a
+    // whole; it is cut as the attribute's own text box cuts it.
+    const QString text = Trim(request.text);
+    return {{}, target.enumber != 0 ? text.left(StatusValueLength) : text};
 }
 
 // The statements of one entry, then its stamp. Values for Gestaltung and
