@@ -422,7 +422,9 @@ QStringList Database::IntegrityFaults(bool quick)
     QStringList faults;
     sqlite3_stmt* stmt = nullptr;
     int rc = sqlite3_prepare_v2(m_db, quick ? "PRAGMA quick_check" : "PRAGMA integrity_check", -1, &stmt, nullptr);
-    while (rc == SQLITE_OK && (rc = sqlite3_step(stmt)) == SQLITE_ROW) {
+    if (rc == SQLITE_OK)
+        rc = SQLITE_ROW;
+    while (rc == SQLITE_ROW && (rc = sqlite3_step(stmt)) == SQLITE_ROW) {
         const QString line = QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_column_text(stmt, 0)));
         if (line != u"ok")
             faults << line;
