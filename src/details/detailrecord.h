@@ -3,8 +3,11 @@
 // them, and the reads that fill the window: the Details and Gestaltung rows,
 // the names offered in its combo boxes, the last-change stamp.
 
+#include "core/schema.h"
+
 #include <QDate>
 #include <QList>
+#include <QMap>
 #include <QString>
 #include <QStringList>
 
@@ -15,7 +18,6 @@ namespace heft {
 class Session;
 
 constexpr int PersonCount = 9;
-constexpr int StatusCount = 19;
 
 struct DetailsRow {
     QDate Erstdatum;
@@ -58,5 +60,11 @@ QStringList ArtistNames(Session& session, const QString& column);
 
 // The stamp of attribute 1, if the entry has exactly one.
 std::optional<QString> ReadLastChange(Session& session, int nr);
+
+// The stored attribute values of the entry by ENum (1 to StatusCount); an
+// attribute without a row is missing.
+QMap<int, QString> ReadStatusValues(Session& session, int nr);
+// The entry's links in the order they are numbered.
+QList<LinkValue> ReadLinks(Session& session, int nr);
 
 } // namespace heft

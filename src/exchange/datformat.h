@@ -4,7 +4,7 @@
 // that turns values into lines. A record is a run of fields, each written as
 // "value"; with nothing escaped, so a value holding ";" cuts its field there.
 
-#include "details/detailrecord.h"
+#include "core/schema.h"
 
 #include <QString>
 
