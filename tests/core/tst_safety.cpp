@@ -83,7 +83,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<bool>("folderGone");
         QTest::addColumn<int>("error");
-        QTest::newRow("Platte voll") << int(JetDiskFull);
+        QTest::newRow("Platte voll") << false << int(JetDiskFull);
         QTest::newRow("Ordner weg") << true << int(JetPathGone);
     }
     void lostChange()
