@@ -1,5 +1,6 @@
 #include "clicommands.h"
 #include "cliexchange.h"
+#include "clistats.h"
 #include "clifilterwords.h"
 #include "clisafety.h"
 
@@ -31,6 +32,8 @@ const QString Usage = u"Aufruf:\n"
                       "  heftarium-cli --db DATEI import DATEI [--mode 0|1|2] [--details]\n"
                       "  heftarium-cli --db DATEI export BASIS --format dat,txt,html [--details] [--gelesen] [--zyklus]"
                       " [FELD:VERGLEICH:WERT ...]\n"
+                      "  heftarium-cli --db DATEI stats NAME [--author TEXT] [--cycle ZYKLUS] [--preiswert 0|1|2]"
+                      " [--rows]\n"
                       "  heftarium-cli --cycle-db DATEI cycles export [--series SERIE]\n"
                       "  heftarium-cli --db DATEI backup [ZIEL]\n"
                       "  heftarium-cli --db DATEI check\n"
@@ -276,6 +279,8 @@ int RunDbCommand(Session& session, const QStringList& arguments, QTextStream& ou
         return ImportCommand(session, arguments.mid(3), out, err);
     if (command == u"export")
         return ExportCommand(session, arguments.mid(3), out, err);
+    if (command == u"stats")
+        return StatsCommand(session, arguments.mid(3), out, err);
     if (command == u"backup" && arguments.size() <= 4)
         return BackupCommand(session, arguments.mid(3), out, err);
     if (command == u"check")

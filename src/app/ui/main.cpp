@@ -13,6 +13,7 @@
 #include "filter/ui/filtermode.h"
 #include "mainwin/ui/mainwindow.h"
 #include "mainwin/ui/splashwindow.h"
+#include "stats/ui/statwindowinstall.h"
 
 #include <QApplication>
 #include <QLocale>
@@ -59,6 +60,7 @@ int main(int argc, char** argv)
     heft::InstallCycleWindow(window);
     heft::InstallImportWindow(window);
     heft::InstallExportWindow(window);
+    heft::InstallStatisticsWindow(window);
     splash.close();
     QObject::connect(&app, &QCoreApplication::aboutToQuit, [&session] { heft::CloseDatabases(session); });
     return QApplication::exec();
