@@ -189,9 +189,9 @@ private Q_SLOTS:
     void screenshot()
     {
         TempCollection collection;
-        collection.session.CollectionDb->BeginBulk();
+        collection.session.CollectionDb->BeginChange();
         collection.Add(Entries(2500));
-        collection.session.CollectionDb->EndBulk();
+        collection.session.CollectionDb->EndChange();
         MainWindow window;
         window.LoadList(collection.session);
         window.resize(1000, 640);
