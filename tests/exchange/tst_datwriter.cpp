@@ -89,7 +89,8 @@ private Q_SLOTS:
             QCOMPARE(r.Titel, u"Ä"_s);
             back += r.Autor;
         }
-        QCOMPARE(back, trimmed);
+        // A line break inside a value would split its record: it goes out as a blank.
+        QCOMPARE(back, QString(trimmed).replace(u'\n', u' '));
     }
 };
 
