@@ -112,16 +112,6 @@ int Filter(Session& session, const QStringList& words, QTextStream& out, QTextSt
 }
 
 
-// Takes "option VALUE" out of the words; false if the option isn't there.
-bool TakeOption(QStringList& words, const QString& option, QString& value)
-{
-    const qsizetype at = words.indexOf(option);
-    if (at < 0 || at + 1 >= words.size())
-        return false;
-    value = words[at + 1];
-    words.remove(at, 2);
-    return true;
-}
 
 // The value as the window's input for the target would hold it: the entry
 // of cmb_aufl or cmb_gel, an accepted cycle, or the text within the limit of
@@ -209,6 +199,17 @@ int Fill(Session& session, const QStringList& arguments, QTextStream& out, QText
     return 0;
 }
 } // namespace
+
+// Takes "option VALUE" out of the words; false if the option isn't there.
+bool TakeOption(QStringList& words, const QString& option, QString& value)
+{
+    const qsizetype at = words.indexOf(option);
+    if (at < 0 || at + 1 >= words.size())
+        return false;
+    value = words[at + 1];
+    words.remove(at, 2);
+    return true;
+}
 
 // The commands on an open collection, behind "--db PATH".
 int RunDbCommand(Session& session, const QStringList& arguments, QTextStream& out, QTextStream& err);
