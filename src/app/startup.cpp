@@ -3,10 +3,13 @@
 #include "datafolder.h"
 
 #include "core/config.h"
+#include "core/fileproblems.h"
 #include "core/schema.h"
 #include "core/sqlwriters.h"
+#include "core/version.h"
 
 #include <QDateTime>
+#include <QDir>
 #include <QLocale>
 #include <QSysInfo>
 
@@ -46,16 +49,17 @@ QString StartLine()
     // The kernel version stands where the system's major, minor and build are.
     const QStringList kernel = QSysInfo::kernelVersion().split(u'.');
     const QString build = kernel.mid(2).join(u'.');
-    return u"V%1.%2.%3, %4/%5 %6/%7/%8-%9"_s.arg(HEFTARIUM_VERSION_MAJOR)
-        .arg(HEFTARIUM_VERSION_MINOR)
-        .arg(HEFTARIUM_VERSION_PATCH)
-        .arg(now.toString(u"dd.MM.yyyy"_s), now.toString(u"hh:mm:ss"_s), QSysInfo::kernelType(),
-             kernel.value(0), kernel.value(1), build);
+    return u"V%1, %2/%3 %4/%5/%6-%7"_s.arg(ProgramVersion(), now.toString(u"dd.MM.yyyy"_s),
+                                           now.toString(u"hh:mm:ss"_s), QSysInfo::kernelType(),
+                                           kernel.value(0), kernel.value(1), build);
 }
 
 void ReportDatabaseOpenFailure(Session& session, const QString& name, const DbError& error)
 {
     session.WriteLog(error.number, u"Fehler beim Öffnen der %1 Tabelle: %2"_s.arg(name, error.description));
+    // The engine's words are English; the collector reads why in his own.
+    if (const QString reason = FileProblemText(error); !reason.isEmpty())
+        session.WriteLog(LogInfo, QDir::toNativeSeparators(name) + u": "_s + reason);
     session.prompter->Tell(u"Probleme beim Öffnen der DB"_s,
                            u"Die Heftarium Tabelle\n\n'%1'\n\nkonnte nicht geöffnet werden!"_s.arg(name),
                            MessageIcon::Critical);

@@ -1,8 +1,13 @@
 #include "clicommands.h"
 #include "cliexchange.h"
+#include "clistats.h"
 #include "clifilterwords.h"
+#include "clihelp.h"
+#include "cliprint.h"
+#include "clisafety.h"
 
 #include "core/config.h"
+#include "core/fileproblems.h"
 #include "core/schema.h"
 #include "core/session.h"
 #include "core/sqlwriters.h"
@@ -20,18 +25,6 @@ namespace heft {
 
 namespace {
 
-const QString Usage = u"Aufruf:\n"
-                      "  heftarium-cli create DATEI --series SERIE --kind LISTENART\n"
-                      "  heftarium-cli --db DATEI info\n"
-                      "  heftarium-cli --db DATEI sql \"ANWEISUNG\"\n"
-                      "  heftarium-cli --db DATEI filter FELD:VERGLEICH:WERT [UND|ODER|EXOR FELD:VERGLEICH:WERT ...]\n"
-                      "  heftarium-cli --db DATEI fill FELD:VERGLEICH:WERT [...] --target SPALTE --value WERT\n"
-                      "  heftarium-cli --db DATEI import DATEI [--mode 0|1|2] [--details]\n"
-                      "  heftarium-cli --db DATEI export BASIS --format dat,txt,html [--details] [--gelesen] [--zyklus]"
-                      " [FELD:VERGLEICH:WERT ...]\n"
-                      "  heftarium-cli --db DATEI webimport VON BIS [--tibi] [--illu]\n"
-                      "  heftarium-cli --cycle-db DATEI cycles export [--series SERIE]\n"_s;
-
 // The value behind an option such as "--series"; empty if absent.
 QString OptionValue(const QStringList& arguments, const QString& option)
 {
@@ -44,10 +37,8 @@ int Create(const QStringList& arguments, QTextStream& out, QTextStream& err)
     const QString path = arguments.value(1);
     const QString series = OptionValue(arguments, u"--series"_s);
     const QString kind = OptionValue(arguments, u"--kind"_s);
-    if (path.startsWith(u"--"_s) || path.isEmpty() || series.isEmpty() || kind.isEmpty()) {
-        err << CliUsage();
-        return 2;
-    }
+    if (path.startsWith(u"--"_s) || path.isEmpty() || series.isEmpty() || kind.isEmpty())
+        return UsageError(err, u"create"_s);
     DbError error;
     if (!CreateCollectionFile(path, series, kind, &error)) {
         err << u"Die Sammlung konnte nicht angelegt werden: "_s << error.description << u'\n';
@@ -121,16 +112,6 @@ int Filter(Session& session, const QStringList& words, QTextStream& out, QTextSt
 }
 
 
-// Takes "option VALUE" out of the words; false if the option isn't there.
-bool TakeOption(QStringList& words, const QString& option, QString& value)
-{
-    const qsizetype at = words.indexOf(option);
-    if (at < 0 || at + 1 >= words.size())
-        return false;
-    value = words[at + 1];
-    words.remove(at, 2);
-    return true;
-}
 
 // The value as the window's input for the target would hold it: the entry
 // of cmb_aufl or cmb_gel, an accepted cycle, or the text within the limit of
@@ -176,10 +157,8 @@ int Fill(Session& session, const QStringList& arguments, QTextStream& out, QText
 {
     QStringList words = arguments;
     QString label, value;
-    if (!TakeOption(words, u"--target"_s, label) || !TakeOption(words, u"--value"_s, value)) {
-        err << CliUsage();
-        return 2;
-    }
+    if (!TakeOption(words, u"--target"_s, label) || !TakeOption(words, u"--value"_s, value))
+        return UsageError(err, u"fill"_s);
     QList<FilterCriterion> rows;
     FilterOutcome outcome;
     if (const int code = ParseFilterWords(session, words, rows, err))
@@ -221,13 +200,24 @@ int Fill(Session& session, const QStringList& arguments, QTextStream& out, QText
 }
 } // namespace
 
-const QString& CliUsage()
+// Takes "option VALUE" out of the words; false if the option isn't there.
+bool TakeOption(QStringList& words, const QString& option, QString& value)
 {
-    return Usage;
+    const qsizetype at = words.indexOf(option);
+    if (at < 0 || at + 1 >= words.size())
+        return false;
+    value = words[at + 1];
+    words.remove(at, 2);
+    return true;
 }
+
+// The commands on an open collection, behind "--db PATH".
+int RunDbCommand(Session& session, const QStringList& arguments, QTextStream& out, QTextStream& err);
 
 int RunCli(const QStringList& arguments, QTextStream& out, QTextStream& err)
 {
+    if (const int code = AnswerHelpRequest(arguments, out); code >= 0)
+        return code;
     if (arguments.value(0) == u"create")
         return Create(arguments, out, err);
     if (arguments.value(0) == u"--cycle-db")
@@ -236,19 +226,36 @@ int RunCli(const QStringList& arguments, QTextStream& out, QTextStream& err)
         err << CliUsage();
         return 2;
     }
+    // A word that is no command is told as such before the file is touched.
+    if (FindCliCommand(arguments[2]) == nullptr) {
+        err << u"Unbekannter Befehl: "_s << arguments[2] << u'\n' << CliUsage();
+        return 2;
+    }
     Session session;
     ScriptedPrompter prompter;
     session.prompter = &prompter;
     session.DataFolder = QFileInfo(arguments[1]).absolutePath();
     if (const DbError error = OpenCollectionDatabase(session, arguments[1])) {
-        err << u"Probleme beim Öffnen der DB: "_s << error.description << u'\n';
+        const QString reason = FileProblemText(error);
+        err << u"Probleme beim Öffnen der DB: "_s << (reason.isEmpty() ? error.description : reason + u' ' + error.description)
+            << u'\n';
         return 1;
     }
+    const int code = RunDbCommand(session, arguments, out, err);
+    // What the window would have shown in a message box (a change the file
+    // could not take, a backup not made) goes to the error output.
+    for (const Message& message : std::as_const(prompter.asked))
+        err << message.title << u": "_s << message.text << u'\n';
+    return code;
+}
+
+int RunDbCommand(Session& session, const QStringList& arguments, QTextStream& out, QTextStream& err)
+{
     const QString command = arguments[2];
     if (command == u"info")
         return Info(session, out, err);
-    if (command == u"sql" && arguments.size() == 4)
-        return Sql(session, arguments[3], out);
+    if (command == u"sql")
+        return arguments.size() == 4 ? Sql(session, arguments[3], out) : UsageError(err, command);
     if (command == u"filter")
         return Filter(session, arguments.mid(3), out, err);
     if (command == u"fill")
@@ -257,10 +264,19 @@ int RunCli(const QStringList& arguments, QTextStream& out, QTextStream& err)
         return ImportCommand(session, arguments.mid(3), out, err);
     if (command == u"export")
         return ExportCommand(session, arguments.mid(3), out, err);
+    if (command == u"stats")
+        return StatsCommand(session, arguments.mid(3), out, err);
+    if (command == u"print")
+        return PrintCommand(session, arguments.mid(3), out, err);
+    if (command == u"backup" && arguments.size() <= 4)
+        return BackupCommand(session, arguments.mid(3), out, err);
+    if (command == u"check")
+        return CheckCommand(session, out);
+    if (command == u"renumber")
+        return RenumberCommand(session, arguments.mid(3), out, err);
     if (command == u"webimport")
         return WebImportCommand(session, arguments.mid(3), out, err);
-    err << CliUsage();
-    return 2;
+    return UsageError(err, command);
 }
 
 } // namespace heft

@@ -4,7 +4,7 @@
 // files written. HEFTARIUM_WIKI_URL points it at another wiki.
 
 #include "cliexchange.h"
-#include "clicommands.h"
+#include "clihelp.h"
 
 #include "core/config.h"
 #include "core/session.h"
@@ -42,10 +42,8 @@ QString Lines(const QString& text) { return QString(text).replace(u"\r\n"_s, u"\
 int WebImportCommand(Session& session, const QStringList& words, QTextStream& out, QTextStream& err)
 {
     WebImportRequest request;
-    if (!ReadRequest(words, request)) {
-        err << CliUsage();
-        return 2;
-    }
+    if (!ReadRequest(words, request))
+        return UsageError(err, u"webimport"_s);
     DbError error;
     if (!ReadConfiguration(session, &error)) {
         err << u"KONFIGURATION nicht lesbar: "_s << error.description << u'\n';

@@ -10,6 +10,7 @@
 #include "splashwindow.h"
 #include "statusbar.h"
 
+#include "core/changeunit.h"
 #include "core/session.h"
 #include "core/sqlwriters.h"
 #include "core/textfuncs.h"
@@ -17,7 +18,6 @@
 #include <QAction>
 #include <QCoreApplication>
 #include <QMenu>
-#include <QPrinterInfo>
 
 using namespace Qt::StringLiterals;
 
@@ -30,8 +30,6 @@ namespace {
 const QStringList EntryCommands = {u"mnu_insert"_s, u"mnu_edit"_s,   u"mnu_delete"_s,
                                    u"mnu_goto"_s,   u"mnu_print"_s,  u"mnu_export"_s,
                                    u"mnu_detail"_s, u"mnu_tibi"_s,   u"mnu_archiv"_s};
-
-bool SystemHasPrinter() { return !QPrinterInfo::availablePrinterNames().isEmpty(); }
 
 } // namespace
 
@@ -74,7 +72,6 @@ void MainWindow::EnableEntryCommands()
 {
     for (const QString& name : EntryCommands)
         m_commands->SetEnabled(name, true);
-    m_commands->SetEnabled(u"mnu_print"_s, SystemHasPrinter());
     m_commands->SetEnabled(u"mnu_archiv"_s, m_session->Config.SeriesName == u"Valdorin");
     m_commands->SetEnabled(u"mnu_detail"_s, m_detailsTableReadable);
 }
@@ -125,7 +122,9 @@ void MainWindow::DeleteClick()
          MessageIcon::Question, MessageButtons::OkCancel});
     if (answer != Answer::Ok)
         return;
-    if (DeleteEntryCascade(session, nr) == 0) {
+    ChangeUnit unit(session);
+    const int result = DeleteEntryCascade(session, nr);
+    if (!unit.Commit() && result == 0) {
         m_list.RemoveEntryRows(nr);
         GetNrRange(session, u";"_s, m_list.LowestNr, m_list.HighestNr);
     }
