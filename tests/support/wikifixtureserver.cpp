@@ -9,6 +9,10 @@ using namespace Qt::StringLiterals;
 
 namespace heft::test {
 
+namespace {
+WikiFixtureServer::Answer Ok(QByteArray page) { return {200, std::move(page), {}, 0, true}; }
+} // namespace
+
 WikiFixtureServer::WikiFixtureServer()
 {
     connect(&m_server, &QTcpServer::newConnection, this, [this] {
@@ -19,7 +23,7 @@ WikiFixtureServer::WikiFixtureServer()
                     return;
                 socket->setProperty("served", true);
                 const QString path = QUrl::fromPercentEncoding(socket->readLine().split(' ').value(1));
-                m_requests << path;
+                requests << path;
                 const Answer answer = m_answers.value(path, {404, "<html>nicht da</html>", {}, 0, true});
                 QByteArray reply = "HTTP/1.1 " + QByteArray::number(answer.status) + " X\r\nConnection: close\r\n";
                 if (!answer.location.isEmpty())
@@ -56,13 +60,13 @@ QByteArray WikiFixtureServer::Padded(QByteArray page)
 
 void WikiFixtureServer::SetIssue(int nr, const QString& file)
 {
-    Set(u"/wiki/Quelle:VN%1"_s.arg(nr), Answer::Ok(Padded(Fixture(file))));
+    Set(u"/wiki/Quelle:VN%1"_s.arg(nr), Ok(Padded(Fixture(file))));
 }
 
 void WikiFixtureServer::SetPicture(const QString& page, const QString& link, const QString& file)
 {
-    Set(u"/wiki/Datei:"_s + page, Answer::Ok(Fixture(u"Datei.html"_s).replace("@LINK@", link.toUtf8())));
-    Set(link, Answer::Ok(Fixture(file)));
+    Set(u"/wiki/Datei:"_s + page, Ok(Fixture(u"Datei.html"_s).replace("@LINK@", link.toUtf8())));
+    Set(link, Ok(Fixture(file)));
 }
 
 void WikiFixtureServer::ServeSampleSite()
@@ -71,12 +75,12 @@ void WikiFixtureServer::ServeSampleSite()
         SetIssue(nr, u"VN%1.html"_s.arg(nr));
         SetPicture(u"VN%1.jpg"_s.arg(nr), u"/images/a/VN%1.jpg"_s.arg(nr), u"cover.jpg"_s);
     }
-    Set(u"/wiki/Zyklen"_s, Answer::Ok(Fixture(u"Zyklen.html"_s)));
+    Set(u"/wiki/Zyklen"_s, Ok(Fixture(u"Zyklen.html"_s)));
     SetPicture(u"VN2401Illu.jpg"_s, u"/images/b/VN2401Illu.jpg"_s, u"illu.jpg"_s);
     SetPicture(u"VN2403Illu.jpg"_s, u"/images/b/VN2403Illu.jpg"_s, u"illu.jpg"_s);
-    Set(u"/wiki/Datei:VN2402Illu.jpg"_s, Answer::Ok(Fixture(u"DateiOhneBild.html"_s)));
+    Set(u"/wiki/Datei:VN2402Illu.jpg"_s, Ok(Fixture(u"DateiOhneBild.html"_s)));
     for (const int k : {1, 2, 3})
-        Set(u"/pics/2/2402illu%1.gif"_s.arg(k), Answer::Ok(Fixture(k < 3 ? u"fallback.gif"_s : u"placeholder.gif"_s)));
+        Set(u"/pics/2/2402illu%1.gif"_s.arg(k), Ok(Fixture(k < 3 ? u"fallback.gif"_s : u"placeholder.gif"_s)));
 }
 
 } // namespace heft::test

@@ -18,7 +18,6 @@ public:
         QByteArray location; // a redirect's target
         int delayMs = 0;     // before anything is sent
         bool announceLength = true;
-        static Answer Ok(QByteArray page) { return {200, std::move(page), {}, 0, true}; }
     };
 
     WikiFixtureServer();
@@ -29,8 +28,8 @@ public:
     // The picture page `page` ("VN2401.jpg") linking to `link`, which serves fixture `file`.
     void SetPicture(const QString& page, const QString& link, const QString& file);
     void ServeSampleSite();
-    qsizetype Hits(const QString& path) const { return m_requests.count(path); }
-    const QStringList& Requests() const { return m_requests; }
+    // The paths asked for, in order.
+    QStringList requests;
 
     static QByteArray Fixture(const QString& name);
     static QByteArray Padded(QByteArray page);
@@ -38,7 +37,6 @@ public:
 private:
     QTcpServer m_server;
     QHash<QString, Answer> m_answers;
-    QStringList m_requests;
 };
 
 } // namespace heft::test

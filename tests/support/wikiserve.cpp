@@ -1,6 +1,5 @@
-// The fixture wiki on its own, for looking at the web import in the running
-// program: prints the address to put into HEFTARIUM_WIKI_URL and
-// HEFTARIUM_PUBLISHER_URL and serves until it is stopped.
+// The fixture wiki standalone: prints the address for HEFTARIUM_WIKI_URL and
+// HEFTARIUM_PUBLISHER_URL and serves until stopped.
 
 #include "wikifixtureserver.h"
 
