@@ -8,7 +8,9 @@
 #include "exchange/webimport.h"
 #include "support/wikifixtureserver.h"
 
+#include <QCoreApplication>
 #include <QTemporaryDir>
+#include <QTextStream>
 
 using namespace Qt::StringLiterals;
 
@@ -44,5 +46,13 @@ double WebImportMs()
 }
 
 } // namespace
+
+int heft::bench::ServeFixtureWiki()
+{
+    heft::test::WikiFixtureServer server;
+    server.ServeSampleSite();
+    QTextStream(stdout) << server.Url() << Qt::endl;
+    return QCoreApplication::exec();
+}
 
 HEFT_BENCH_FIGURE(webimport_100_local_ms, [] { return WebImportMs(); })
