@@ -68,9 +68,9 @@ const QList<CliCommandHelp>& CliCommands()
         {u"webimport"_s,
          {u"heftarium-cli --db DATEI webimport VON BIS [--tibi] [--illu]"_s},
          u"Holt die Hefte VON bis BIS wie der Web-Import des Programms aus dem Wiki der Serie in eine Austauschdatei "
-         "und ihre Details-Datei im Ordner import neben der Sammlung, und gibt Bericht, Fehlerliste und die "
-         "geschriebenen Dateien aus. Die Umgebungsvariablen HEFTARIUM_WIKI_URL und HEFTARIUM_PUBLISHER_URL "
-         "ersetzen die Adressen von Wiki und Verlag."_s,
+         "und ihre Details-Datei im Ordner import des Datenordners (dem Ordner über DBs), und gibt Bericht, "
+         "Fehlerliste und die geschriebenen Dateien aus. Die Umgebungsvariablen HEFTARIUM_WIKI_URL und "
+         "HEFTARIUM_PUBLISHER_URL ersetzen die Adressen von Wiki und Verlag."_s,
          {{u"--tibi"_s, u"holt auch die Titelbilder in den Bilderordner"_s},
           {u"--illu"_s, u"holt auch die Illustrationen in den Bilderordner"_s}},
          {{1, u"Ein Heft ließ sich nicht holen (die Zeilen davor sind geschrieben), oder die Konfiguration ist "
