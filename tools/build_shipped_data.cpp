@@ -10,8 +10,7 @@
 #include "core/database.h"
 #include "core/schema.h"
 #include "core/textfuncs.h"
-#include "exchange/datfile.h"
-#include "exchange/datreader.h"
+#include "datsources.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -26,58 +25,9 @@ using namespace heft;
 
 namespace {
 
-const QString Series = u"Valdorin"_s;
+const QString Series = SourceSeries();
 const QString Heftromane = u"Heftromane"_s;
 const QString Taschenbuecher = u"Taschenbücher"_s;
-
-class BuildError {
-public:
-    explicit BuildError(QString text) : m_text(std::move(text)) {}
-    const QString& Text() const { return m_text; }
-
-private:
-    QString m_text;
-};
-
-// The record lines of an exchange file whose header must be the expected one.
-QStringList ReadRecordLines(const QString& path, DatKind expected, const QString& kind)
-{
-    DatInputFile file;
-    if (!file.Open(path))
-        throw BuildError(u"%1 kann nicht gelesen werden"_s.arg(path));
-    if (KindOfHeader(file.ReadLine(), Series, kind) != expected)
-        throw BuildError(u"%1 hat nicht die erwartete Kopfzeile"_s.arg(path));
-    QStringList lines;
-    while (!file.AtEnd())
-        lines << file.ReadLine();
-    return lines;
-}
-
-template <typename Reader, typename Record>
-std::vector<Record> ReadRecords(const QString& path, DatKind kind, const QString& listKind)
-{
-    Reader reader;
-    std::vector<Record> records;
-    int lineNumber = 1;
-    for (const QString& line : ReadRecordLines(path, kind, listKind)) {
-        ++lineNumber;
-        const Record& record = reader.Read(line);
-        if (!record.IsGood())
-            throw BuildError(u"%1, Zeile %2 ist unvollständig"_s.arg(path).arg(lineNumber));
-        records.push_back(record);
-    }
-    return records;
-}
-
-std::vector<ListRecord> ReadList(const QString& path, const QString& kind)
-{
-    return ReadRecords<ListReader, ListRecord>(path, DatKind::List, kind);
-}
-
-std::vector<DetailsRecord> ReadDetails(const QString& path)
-{
-    return ReadRecords<DetailsReader, DetailsRecord>(path, DatKind::Details, QString());
-}
 
 void Run(Database& db, const QString& sql)
 {

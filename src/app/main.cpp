@@ -8,6 +8,7 @@
 #include "core/sqlwriters.h"
 #include "cycles/cyclewindowinstall.h"
 #include "details/detailopener.h"
+#include "details/ui/picturecommands.h"
 #include "exchange/exportdialog.h"
 #include "exchange/importwindow.h"
 #include "filter/filtermode.h"
@@ -55,6 +56,7 @@ int main(int argc, char** argv)
     heft::MainWindow window;
     window.LoadList(session);
     heft::InstallDetailWindow(window);
+    heft::InstallPictureCommands(window);
     heft::InstallFilterMode(window);
     heft::InstallCycleWindow(window);
     heft::InstallImportWindow(window);

@@ -1,6 +1,7 @@
 #include "clicommands.h"
 #include "cliexchange.h"
 #include "clifilterwords.h"
+#include "clipictures.h"
 
 #include "core/config.h"
 #include "core/schema.h"
@@ -29,7 +30,12 @@ const QString Usage = u"Aufruf:\n"
                       "  heftarium-cli --db DATEI import DATEI [--mode 0|1|2] [--details]\n"
                       "  heftarium-cli --db DATEI export BASIS --format dat,txt,html [--details] [--gelesen] [--zyklus]"
                       " [FELD:VERGLEICH:WERT ...]\n"
-                      "  heftarium-cli --cycle-db DATEI cycles export [--series SERIE]\n"_s;
+                      "  heftarium-cli --cycle-db DATEI cycles export [--series SERIE]\n"
+                      "  heftarium-cli --db DATEI picture NR [--kind tibi|rize|illu] [--page N]\n"
+                      "  heftarium-cli --db DATEI picture add NR DATEI --kind tibi|rize|illu [--page N] [--overwrite]\n"
+                      "  heftarium-cli --db DATEI archive page NR\n"
+                      "  heftarium-cli --db DATEI archive search --word TEXT [--word2 TEXT] [--join UND|ODER|EXOR]"
+                      " [--mode Farbe|Filter] [FELD:VERGLEICH:WERT ...]\n"_s;
 
 // The value behind an option such as "--series"; empty if absent.
 QString OptionValue(const QStringList& arguments, const QString& option)
@@ -256,6 +262,10 @@ int RunCli(const QStringList& arguments, QTextStream& out, QTextStream& err)
         return ImportCommand(session, arguments.mid(3), out, err);
     if (command == u"export")
         return ExportCommand(session, arguments.mid(3), out, err);
+    if (command == u"picture")
+        return PictureCommand(session, arguments.mid(3), out, err);
+    if (command == u"archive")
+        return ArchiveCommand(session, arguments.mid(3), out, err);
     err << CliUsage();
     return 2;
 }
