@@ -14,6 +14,7 @@
 #include "core/picturenames.h"
 #include "core/session.h"
 
+#include <QDate>
 #include <QDir>
 #include <QFile>
 #include <QGuiApplication>
@@ -40,6 +41,13 @@ constexpr int ArchiveCoversTo = 40;
 constexpr int BookCovers = 10;
 
 QString Escaped(const QString& text) { return text.toHtmlEscaped(); }
+
+// "1961-09-08" as the archive writes dates: "08.09.1961".
+QString GermanDate(const QString& text)
+{
+    const QDate date = QDate::fromString(text, Qt::ISODate);
+    return date.isValid() ? date.toString(u"dd.MM.yyyy"_s) : Escaped(text);
+}
 
 QString Padded(int number, int digits) { return u"%1"_s.arg(number, digits, 10, QChar(u'0')); }
 
@@ -81,7 +89,7 @@ QString IssuePage(const PageNames& names, const ListRecord& entry, const Details
         html += u"<TR><TD><B>Zyklus:</B></TD><TD>%1</TD></TR>\r\n"_s.arg(Escaped(entry.Zyklus));
     if (details) {
         if (!details->Ersterscheinung.isEmpty())
-            html += u"<TR><TD><B>Erstausgabe:</B></TD><TD>%1</TD></TR>\r\n"_s.arg(Escaped(details->Ersterscheinung));
+            html += u"<TR><TD><B>Erstausgabe:</B></TD><TD>%1</TD></TR>\r\n"_s.arg(GermanDate(details->Ersterscheinung));
         if (!details->TiBiZeichner.isEmpty())
             html += u"<TR><TD><B>Titelbild:</B></TD><TD>%1</TD></TR>\r\n"_s.arg(Escaped(details->TiBiZeichner));
         if (!details->IlluZeichner.isEmpty())

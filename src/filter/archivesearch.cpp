@@ -7,7 +7,6 @@
 #include "mainwin/entrylist.h"
 
 #include <QFile>
-#include <QFileInfo>
 
 #include <vector>
 
@@ -69,16 +68,17 @@ ArchivePageScanner::ArchivePageScanner(const Configuration& config, const Archiv
 
 int ArchivePageScanner::ScanArchivePage(const ArchivePageLocation& location, int nr) const
 {
-    QString path = ResolvePath(m_config.ArchiveRoot, location.copyFolder + u'/' + location.fileName);
-    bool fromCopy = QFileInfo(path).isFile();
+    const QString copy = ResolvePath(m_config.ArchiveRoot, location.copyFolder + u'/' + location.fileName);
+    QFile file(copy);
+    const bool fromCopy = !copy.isEmpty() && file.open(QIODevice::ReadOnly);
     if (!fromCopy) {
         QString label;
         const QString root = FindArchiveDrive(m_volumes(), label);
-        path = root.isEmpty() ? QString() : ResolvePath(root, location.cdFolder + u'/' + location.fileName);
+        const QString onCd = root.isEmpty() ? QString() : ResolvePath(root, location.cdFolder + u'/' + location.fileName);
+        file.setFileName(onCd);
+        if (onCd.isEmpty() || !file.open(QIODevice::ReadOnly))
+            return -1;
     }
-    QFile file(path);
-    if (path.isEmpty() || !file.open(QIODevice::ReadOnly))
-        return -1;
     QByteArray page = file.readAll();
     if (page.isEmpty())
         return 0;

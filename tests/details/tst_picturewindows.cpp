@@ -8,6 +8,7 @@
 #include "details/ui/pictureviewer.h"
 #include "mainwin/mainwindow.h"
 
+#include <QApplication>
 #include <QComboBox>
 #include <QDir>
 #include <QLineEdit>
@@ -17,6 +18,8 @@
 #include <QTabWidget>
 #include <QTest>
 #include <QTimer>
+
+#include <functional>
 
 using namespace Qt::StringLiterals;
 using namespace heft;

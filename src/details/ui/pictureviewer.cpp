@@ -7,6 +7,7 @@
 #include <QImageReader>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QPixmap>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
