@@ -233,7 +233,10 @@ QImage Illustration(const ListRecord& entry, int page)
 
 void DrawPictures(const QString& out, const std::vector<ListRecord>& hefte, const std::vector<ListRecord>& books)
 {
-    Configuration heftConfig{.SeriesName = SourceSeries(), .ListKind = u"Heftromane"_s, .PictureRoot = out};
+    Configuration heftConfig;
+    heftConfig.SeriesName = SourceSeries();
+    heftConfig.ListKind = u"Heftromane"_s;
+    heftConfig.PictureRoot = out;
     Configuration bookConfig = heftConfig;
     bookConfig.ListKind = u"Taschenbücher"_s;
     const QString covers = PictureFolder(heftConfig, KindWord(CoverKind));

@@ -73,7 +73,10 @@ private Q_SLOTS:
         WritePage(root.filePath(u"Archiv/HEFTE/HEFT0005.HTM"_s), "<P>Admiral Veyl auf Gorrodor, Kr\xE4he</P>");
         WritePage(root.filePath(u"Archiv/SEITEN/BUECHER/TBs.htm"_s),
                   Book(1, "Veyl im Nebel ") + Book(2, "ohne ihn ") + Book(3, "wieder Veyl"));
-        const Configuration config{.SeriesName = u"Valdorin"_s, .ListKind = list, .ArchiveRoot = root.path()};
+        Configuration config;
+        config.SeriesName = u"Valdorin"_s;
+        config.ListKind = list;
+        config.ArchiveRoot = root.path();
         const ArchiveQuery query{ArchiveMode::Filter, u"Veyl"_s, word2, static_cast<ArchiveJoin>(join)};
         const ArchivePageScanner scanner(config, query, [] { return QList<Volume>(); });
         const ArchiveEdition edition = list == u"Heftromane" ? ArchiveEdition::Second : ArchiveEdition::First;
