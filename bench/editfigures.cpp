@@ -4,11 +4,10 @@
 
 #include "benchsupport.h"
 
-#include "core/config.h"
 #include "core/session.h"
 #include "core/textfuncs.h"
-#include "mainwin/entryeditor.h"
-#include "mainwin/mainwindow.h"
+#include "mainwin/entrylist.h"
+#include "mainwin/entrysave.h"
 
 #include <QFile>
 
@@ -22,34 +21,26 @@ double EditSaveMs(int entries)
     heft::Session session;
     heft::ScriptedPrompter prompter;
     session.prompter = &prompter;
-    heft::bench::OpenCollection(session, path);
-    heft::DbError error;
-    heft::ReadConfiguration(session, &error);
-    heft::ReadParameters(session);
-
-    double ms = 0;
-    {
-        heft::MainWindow window;
-        window.LoadList(session);
-        heft::EntryList& list = window.List();
-        const int nr = static_cast<int>(heft::Val(list.Heftliste.TextMatrix(entries / 2, heft::ColNr)));
-        int run = 0;
-        // The dialog's part is what cmd_ok leaves behind: the typed values in
-        // EntryRecord, quoted, and the number of the row it was opened on.
-        ms = heft::bench::MedianMs(7, [&] {
-            list.FindAndShowRow(nr);
-            session.EditMode = true;
-            session.EditRetry = false;
-            session.OldNr = nr;
-            session.Entry = {nr, u"Kurt Mahr"_s, heft::QuoteSql(u"Der Ruf der Ewigkeit, Fassung %1"_s.arg(++run)), 2,
-                             u"XII"_s, true, u"Sammlerstück"_s};
-            session.EditAccepted = true;
-            heft::SaveEntry(window);
-        });
-        if (!prompter.asked.isEmpty() || list.Heftliste.TextMatrix(list.Heftliste.Row(), heft::ColTitel) !=
-                                             u"Der Ruf der Ewigkeit, Fassung %1"_s.arg(run))
-            qFatal("bench edit was not saved as a plain change");
-    }
+    heft::EntryList list;
+    heft::bench::LoadCollection(session, list, path);
+    const int nr = static_cast<int>(heft::Val(list.Heftliste.TextMatrix(entries / 2, heft::ColNr)));
+    int run = 0;
+    // The dialog's part is what cmd_ok leaves behind: the typed values in
+    // EntryRecord, quoted, and the number of the row it was opened on.
+    const double ms = heft::bench::MedianMs(7, [&] {
+        list.FindAndShowRow(nr);
+        session.EditMode = true;
+        session.EditRetry = false;
+        session.OldNr = nr;
+        session.Entry = {nr, u"Kurt Mahr"_s, heft::QuoteSql(u"Der Ruf der Ewigkeit, Fassung %1"_s.arg(++run)), 2,
+                         u"XII"_s, true, u"Sammlerstück"_s};
+        session.EditAccepted = true;
+        if (heft::WriteEntry(session, list) != heft::EntrySaveOutcome::Saved)
+            qFatal("bench edit was not saved");
+    });
+    if (!prompter.asked.isEmpty() ||
+        list.Heftliste.TextMatrix(list.Heftliste.Row(), heft::ColTitel) != u"Der Ruf der Ewigkeit, Fassung %1"_s.arg(run))
+        qFatal("bench edit was not saved as a plain change");
     session.CollectionDb.reset();
     QFile::remove(path);
     return ms;

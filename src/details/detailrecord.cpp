@@ -76,4 +76,31 @@ std::optional<QString> ReadLastChange(Session& session, int nr)
     return stamp;
 }
 
+QMap<int, QString> ReadStatusValues(Session& session, int nr)
+{
+    QMap<int, QString> values;
+    // Read errors leave the values read so far; an unknown ENum is skipped.
+    Query records = session.CollectionDb->Select(u"SELECT * FROM Status WHERE Nr=%1 ORDER BY ENum;"_s.arg(nr));
+    const int enumColumn = records.ColumnIndex(u"ENum"_s);
+    const int valueColumn = records.ColumnIndex(u"StatusWert"_s);
+    while (records.Next()) {
+        const auto enumber = static_cast<int>(records.Int(enumColumn));
+        if (enumber >= 1 && enumber <= StatusCount)
+            values.insert(enumber, records.Text(valueColumn));
+    }
+    return values;
+}
+
+QList<LinkValue> ReadLinks(Session& session, int nr)
+{
+    QList<LinkValue> links;
+    Query records = session.CollectionDb->Select(u"SELECT * FROM Links WHERE Nr=%1 ORDER BY ENum;"_s.arg(nr));
+    const int numberColumn = records.ColumnIndex(u"LinkNum"_s);
+    const int textColumn = records.ColumnIndex(u"LinkText"_s);
+    const int seriesColumn = records.ColumnIndex(u"LinkSerie"_s);
+    while (records.Next())
+        links.append({static_cast<int>(records.Int(numberColumn)), records.Text(textColumn), records.Text(seriesColumn)});
+    return links;
+}
+
 } // namespace heft

@@ -5,6 +5,7 @@
 
 #include <QDate>
 #include <QList>
+#include <QMap>
 #include <QString>
 #include <QStringList>
 
@@ -58,5 +59,11 @@ QStringList ArtistNames(Session& session, const QString& column);
 
 // The stamp of attribute 1, if the entry has exactly one.
 std::optional<QString> ReadLastChange(Session& session, int nr);
+
+// The stored attribute values of the entry by ENum (1 to StatusCount); an
+// attribute without a row is missing.
+QMap<int, QString> ReadStatusValues(Session& session, int nr);
+// The entry's links in the order they are numbered.
+QList<LinkValue> ReadLinks(Session& session, int nr);
 
 } // namespace heft

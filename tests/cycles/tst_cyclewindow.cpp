@@ -8,10 +8,10 @@
 #include "core/codepage.h"
 #include "core/schema.h"
 #include "core/textfuncs.h"
-#include "cycles/cyclegrid.h"
-#include "cycles/cyclewindow.h"
-#include "cycles/cyclewindowinstall.h"
-#include "mainwin/mainwindow.h"
+#include "cycles/ui/cyclegrid.h"
+#include "cycles/ui/cyclewindow.h"
+#include "cycles/ui/cyclewindowinstall.h"
+#include "mainwin/ui/mainwindow.h"
 
 #include <QAction>
 #include <QApplication>

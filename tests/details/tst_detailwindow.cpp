@@ -1,10 +1,10 @@
 #include "testmain.h"
 #include "testsupport.h"
 
-#include "details/detailopener.h"
-#include "details/detailwindow.h"
+#include "details/ui/detailopener.h"
+#include "details/ui/detailwindow.h"
 #include "details/erstdatum.h"
-#include "mainwin/mainwindow.h"
+#include "mainwin/ui/mainwindow.h"
 
 #include <QAction>
 #include <QApplication>

@@ -3,8 +3,8 @@
 
 #include "mainwin/listfixture.h"
 
-#include "details/editlinkdialog.h"
-#include "details/linkspanel.h"
+#include "details/ui/editlinkdialog.h"
+#include "details/ui/linkspanel.h"
 
 #include <QApplication>
 #include <QHeaderView>

@@ -4,9 +4,9 @@
 #include "testmain.h"
 #include "testsupport.h"
 
-#include "details/detailwindow.h"
+#include "details/ui/detailwindow.h"
 #include "details/ui/pictureviewer.h"
-#include "mainwin/mainwindow.h"
+#include "mainwin/ui/mainwindow.h"
 
 #include <QApplication>
 #include <QComboBox>

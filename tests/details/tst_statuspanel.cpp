@@ -1,7 +1,7 @@
 #include "testmain.h"
 #include "testsupport.h"
 
-#include "details/statuspanel.h"
+#include "details/ui/statuspanel.h"
 
 #include <QComboBox>
 #include <QDialog>

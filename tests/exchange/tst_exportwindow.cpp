@@ -5,10 +5,10 @@
 #include "exportfixture.h"
 #include "testmain.h"
 
-#include "exchange/exportdialog.h"
-#include "filter/filtermode.h"
+#include "exchange/ui/exportdialog.h"
+#include "filter/ui/filtermode.h"
 #include "filter/filterrun.h"
-#include "mainwin/mainwindow.h"
+#include "mainwin/ui/mainwindow.h"
 
 #include <QAction>
 #include <QApplication>

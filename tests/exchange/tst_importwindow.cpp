@@ -5,8 +5,8 @@
 #include "importfixture.h"
 #include "testmain.h"
 
-#include "exchange/importwindow.h"
-#include "mainwin/mainwindow.h"
+#include "exchange/ui/importwindow.h"
+#include "mainwin/ui/mainwindow.h"
 
 #include <QAction>
 #include <QComboBox>

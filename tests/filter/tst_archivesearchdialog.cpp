@@ -4,9 +4,9 @@
 #include "testmain.h"
 #include "testsupport.h"
 
-#include "filter/filterdialog.h"
-#include "filter/filtermode.h"
-#include "mainwin/mainwindow.h"
+#include "filter/ui/filterdialog.h"
+#include "filter/ui/filtermode.h"
+#include "mainwin/ui/mainwindow.h"
 
 #include <QComboBox>
 #include <QDir>

@@ -6,10 +6,10 @@
 #include "testsupport.h"
 
 #include "filter/columnfill.h"
-#include "filter/columnfilldialog.h"
-#include "filter/filtermode.h"
+#include "filter/ui/columnfilldialog.h"
+#include "filter/ui/filtermode.h"
 #include "filter/filterrun.h"
-#include "mainwin/mainwindow.h"
+#include "mainwin/ui/mainwindow.h"
 
 #include <QAction>
 #include <QComboBox>

@@ -5,9 +5,9 @@
 #include "testmain.h"
 #include "testsupport.h"
 
-#include "filter/filtermode.h"
-#include "mainwin/mainwindow.h"
-#include "mainwin/statusbar.h"
+#include "filter/ui/filtermode.h"
+#include "mainwin/ui/mainwindow.h"
+#include "mainwin/ui/statusbar.h"
 
 #include <QAction>
 #include <QApplication>

@@ -1,9 +1,9 @@
 #include "listfixture.h"
 #include "testmain.h"
 
-#include "mainwin/editdialog.h"
-#include "mainwin/entryeditor.h"
-#include "mainwin/mainwindow.h"
+#include "mainwin/ui/editdialog.h"
+#include "mainwin/ui/entryeditor.h"
+#include "mainwin/ui/mainwindow.h"
 
 #include <QApplication>
 #include <QComboBox>

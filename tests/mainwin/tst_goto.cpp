@@ -1,8 +1,8 @@
 #include "listfixture.h"
 #include "testmain.h"
 
-#include "mainwin/gotodialog.h"
-#include "mainwin/mainwindow.h"
+#include "mainwin/ui/gotodialog.h"
+#include "mainwin/ui/mainwindow.h"
 
 #include <QLineEdit>
 #include <QProgressBar>

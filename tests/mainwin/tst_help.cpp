@@ -1,6 +1,6 @@
 #include "testmain.h"
 
-#include "mainwin/helpwindow.h"
+#include "mainwin/ui/helpwindow.h"
 
 #include <QAction>
 #include <QApplication>

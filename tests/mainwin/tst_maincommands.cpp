@@ -4,7 +4,7 @@
 #include "testmain.h"
 #include "testsupport.h"
 
-#include "mainwin/mainwindow.h"
+#include "mainwin/ui/mainwindow.h"
 #include "mainwin/twips.h"
 
 #include <QAction>

@@ -1,8 +1,8 @@
 #include "listfixture.h"
 #include "testmain.h"
 
-#include "mainwin/entrygridview.h"
-#include "mainwin/mainwindow.h"
+#include "mainwin/ui/entrygridview.h"
+#include "mainwin/ui/mainwindow.h"
 #include "mainwin/twips.h"
 
 #include <QApplication>

@@ -2,7 +2,7 @@
 #include "testsupport.h"
 
 #include "mainwin/imageloading.h"
-#include "mainwin/splashwindow.h"
+#include "mainwin/ui/splashwindow.h"
 
 #include <QBuffer>
 #include <QDesktopServices>

@@ -6,7 +6,7 @@
 #include "core/session.h"
 #include "core/textfuncs.h"
 #include "details/archivelink.h"
-#include "mainwin/mainwindow.h"
+#include "mainwin/ui/mainwindow.h"
 
 #include <QDesktopServices>
 #include <QUrl>

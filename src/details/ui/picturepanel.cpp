@@ -7,7 +7,7 @@
 #include "core/picturenames.h"
 #include "core/session.h"
 #include "details/picturestore.h"
-#include "mainwin/mainwindow.h"
+#include "mainwin/ui/mainwindow.h"
 #include "mainwin/twips.h"
 
 #include <QDropEvent>

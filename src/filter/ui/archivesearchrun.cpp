@@ -1,10 +1,10 @@
 #include "archivesearchrun.h"
 
 #include "filter/archivesearch.h"
-#include "filter/filtermode.h"
+#include "filter/ui/filtermode.h"
 
 #include "core/session.h"
-#include "mainwin/mainwindow.h"
+#include "mainwin/ui/mainwindow.h"
 
 #include <QApplication>
 #include <QKeyEvent>
