@@ -10,7 +10,6 @@
 #include "details/picturestore.h"
 
 #include <QDir>
-#include <QImage>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -124,7 +123,6 @@ private Q_SLOTS:
         QTest::addColumn<QSize>("shown");
         QTest::newRow("wide") << QSize(1440, 1000) << QSize(720, 500);
         QTest::newRow("tall") << QSize(400, 1080) << QSize(200, 540);
-        QTest::newRow("both, width first") << QSize(1440, 2160) << QSize(360, 540);
         QTest::newRow("fits") << QSize(360, 520) << QSize(360, 520);
     }
     void scaling()
@@ -132,60 +130,6 @@ private Q_SLOTS:
         QFETCH(QSize, picture);
         QFETCH(QSize, shown);
         QCOMPARE(ShownPictureSize(picture), shown);
-    }
-
-    void coverLookup_data()
-    {
-        QTest::addColumn<QString>("list");
-        QTest::addColumn<QString>("label");
-        QTest::addColumn<QStringList>("files"); // below the data folder; "CD/" is the drive
-        QTest::addColumn<int>("lookup");
-        QTest::addColumn<QString>("found");
-        const int found = static_cast<int>(PictureLookup::Found);
-        const int missing = static_cast<int>(PictureLookup::Missing);
-        QTest::newRow("damaged jpg falls through") << u"Heftromane"_s << QString()
-                                                   << QStringList{u"tibis/Valdorin (Heftromane)/12tibi.bmp"_s,
-                                                                  u"!tibis/Valdorin (Heftromane)/12tibi.jpg"_s}
-                                                   << found << u"tibis/Valdorin (Heftromane)/12tibi.bmp"_s;
-        QTest::newRow("copy of CD II, lower case") << u"Heftromane"_s << QString()
-                                                   << QStringList{u"archiv/pics/tibis/tibi0012.jpg"_s} << found
-                                                   << u"archiv/pics/tibis/tibi0012.jpg"_s;
-        QTest::newRow("CD I in the drive") << u"Heftromane"_s << u"VALDORIN_1"_s
-                                           << QStringList{u"CD/HTML/SEITEN/PICS/H0/12tibi.jpg"_s} << found
-                                           << u"CD/HTML/SEITEN/PICS/H0/12tibi.jpg"_s;
-        QTest::newRow("nothing anywhere") << u"Heftromane"_s << QString() << QStringList() << missing << QString();
-        QTest::newRow("CD I knows no books") << u"Taschenbücher"_s << u"VALDORIN_1"_s << QStringList()
-                                             << static_cast<int>(PictureLookup::Empty) << QString();
-    }
-    void coverLookup()
-    {
-        QFETCH(QString, list);
-        QFETCH(QString, label);
-        QFETCH(QStringList, files);
-        QFETCH(int, lookup);
-        QFETCH(QString, found);
-        QTemporaryDir root;
-        QImage image(4, 4, QImage::Format_RGB32);
-        image.fill(Qt::red);
-        for (QString file : files) {
-            const bool damaged = file.startsWith(u'!');
-            file.remove(u'!');
-            QDir().mkpath(QFileInfo(root.filePath(file)).absolutePath());
-            if (damaged)
-                Write(root.filePath(file), "no picture");
-            else
-                QVERIFY(image.save(root.filePath(file), file.endsWith(u"bmp"_s) ? "BMP" : "JPG"));
-        }
-        Configuration config;
-        config.SeriesName = u"Valdorin"_s;
-        config.ListKind = list;
-        config.PictureRoot = config.ArchiveRoot = root.path();
-        const QList<Volume> drives{{root.filePath(u"CD/"_s), label, u"iso9660"_s}};
-        const PictureFound result = ChoosePicture(
-            FindPictureCandidates(config, drives, 12, SplitPictureKind(u"tibi"_s)),
-            [](const QString& path) { return !QImage(path).isNull(); });
-        QCOMPARE(static_cast<int>(result.lookup), lookup);
-        QCOMPARE(result.path, found.isEmpty() ? QString() : root.filePath(found));
     }
 
     void pathsStayInTheirFolder()
