@@ -1,6 +1,6 @@
 # The German manual: HTML pages copied beside the program at build time, so
-# that a program started from the build tree finds help/ at once, and
-# installed with the other shipped files.
+# that a program started from the build tree finds help/ at once; they are
+# installed with the rest of that folder.
 file(GLOB help_pages CONFIGURE_DEPENDS ${CMAKE_CURRENT_LIST_DIR}/../data/help/*.html
                                        ${CMAKE_CURRENT_LIST_DIR}/../data/help/*.css)
 set(help_folder ${HEFTARIUM_RUNTIME_DIR}/help)
@@ -18,5 +18,3 @@ add_custom_command(
   COMMENT "Copying the help manual"
   VERBATIM)
 add_custom_target(help_manual ALL DEPENDS ${help_copies})
-
-install(FILES ${help_pages} DESTINATION ${CMAKE_INSTALL_DATADIR}/Quintara/Heftarium/help)

@@ -5,6 +5,7 @@
 #include "core/config.h"
 #include "core/schema.h"
 #include "core/sqlwriters.h"
+#include "core/version.h"
 
 #include <QDateTime>
 #include <QLocale>
@@ -46,11 +47,9 @@ QString StartLine()
     // The kernel version stands where the system's major, minor and build are.
     const QStringList kernel = QSysInfo::kernelVersion().split(u'.');
     const QString build = kernel.mid(2).join(u'.');
-    return u"V%1.%2.%3, %4/%5 %6/%7/%8-%9"_s.arg(HEFTARIUM_VERSION_MAJOR)
-        .arg(HEFTARIUM_VERSION_MINOR)
-        .arg(HEFTARIUM_VERSION_PATCH)
-        .arg(now.toString(u"dd.MM.yyyy"_s), now.toString(u"hh:mm:ss"_s), QSysInfo::kernelType(),
-             kernel.value(0), kernel.value(1), build);
+    return u"V%1, %2/%3 %4/%5/%6-%7"_s.arg(ProgramVersion(), now.toString(u"dd.MM.yyyy"_s),
+                                           now.toString(u"hh:mm:ss"_s), QSysInfo::kernelType(),
+                                           kernel.value(0), kernel.value(1), build);
 }
 
 void ReportDatabaseOpenFailure(Session& session, const QString& name, const DbError& error)

@@ -1,7 +1,10 @@
 #include "clicommands.h"
 #include "cliexchange.h"
+#include "clistats.h"
 #include "clifilterwords.h"
 #include "clipictures.h"
+#include "clihelp.h"
+#include "cliprint.h"
 
 #include "core/config.h"
 #include "core/schema.h"
@@ -21,22 +24,6 @@ namespace heft {
 
 namespace {
 
-const QString Usage = u"Aufruf:\n"
-                      "  heftarium-cli create DATEI --series SERIE --kind LISTENART\n"
-                      "  heftarium-cli --db DATEI info\n"
-                      "  heftarium-cli --db DATEI sql \"ANWEISUNG\"\n"
-                      "  heftarium-cli --db DATEI filter FELD:VERGLEICH:WERT [UND|ODER|EXOR FELD:VERGLEICH:WERT ...]\n"
-                      "  heftarium-cli --db DATEI fill FELD:VERGLEICH:WERT [...] --target SPALTE --value WERT\n"
-                      "  heftarium-cli --db DATEI import DATEI [--mode 0|1|2] [--details]\n"
-                      "  heftarium-cli --db DATEI export BASIS --format dat,txt,html [--details] [--gelesen] [--zyklus]"
-                      " [FELD:VERGLEICH:WERT ...]\n"
-                      "  heftarium-cli --cycle-db DATEI cycles export [--series SERIE]\n"
-                      "  heftarium-cli --db DATEI picture NR [--kind tibi|rize|illu] [--page N]\n"
-                      "  heftarium-cli --db DATEI picture add NR DATEI --kind tibi|rize|illu [--page N] [--overwrite]\n"
-                      "  heftarium-cli --db DATEI archive page NR\n"
-                      "  heftarium-cli --db DATEI archive search --word TEXT [--word2 TEXT] [--join UND|ODER|EXOR]"
-                      " [--mode Farbe|Filter] [FELD:VERGLEICH:WERT ...]\n"_s;
-
 // The value behind an option such as "--series"; empty if absent.
 QString OptionValue(const QStringList& arguments, const QString& option)
 {
@@ -49,10 +36,8 @@ int Create(const QStringList& arguments, QTextStream& out, QTextStream& err)
     const QString path = arguments.value(1);
     const QString series = OptionValue(arguments, u"--series"_s);
     const QString kind = OptionValue(arguments, u"--kind"_s);
-    if (path.startsWith(u"--"_s) || path.isEmpty() || series.isEmpty() || kind.isEmpty()) {
-        err << CliUsage();
-        return 2;
-    }
+    if (path.startsWith(u"--"_s) || path.isEmpty() || series.isEmpty() || kind.isEmpty())
+        return UsageError(err, u"create"_s);
     DbError error;
     if (!CreateCollectionFile(path, series, kind, &error)) {
         err << u"Die Sammlung konnte nicht angelegt werden: "_s << error.description << u'\n';
@@ -181,10 +166,8 @@ int Fill(Session& session, const QStringList& arguments, QTextStream& out, QText
 {
     QStringList words = arguments;
     QString label, value;
-    if (!TakeOption(words, u"--target"_s, label) || !TakeOption(words, u"--value"_s, value)) {
-        err << CliUsage();
-        return 2;
-    }
+    if (!TakeOption(words, u"--target"_s, label) || !TakeOption(words, u"--value"_s, value))
+        return UsageError(err, u"fill"_s);
     QList<FilterCriterion> rows;
     FilterOutcome outcome;
     if (const int code = ParseFilterWords(session, words, rows, err))
@@ -226,19 +209,21 @@ int Fill(Session& session, const QStringList& arguments, QTextStream& out, QText
 }
 } // namespace
 
-const QString& CliUsage()
-{
-    return Usage;
-}
-
 int RunCli(const QStringList& arguments, QTextStream& out, QTextStream& err)
 {
+    if (const int code = AnswerHelpRequest(arguments, out); code >= 0)
+        return code;
     if (arguments.value(0) == u"create")
         return Create(arguments, out, err);
     if (arguments.value(0) == u"--cycle-db")
         return CyclesCommand(arguments, out, err);
     if (arguments.value(0) != u"--db" || arguments.size() < 3) {
         err << CliUsage();
+        return 2;
+    }
+    // A word that is no command is told as such before the file is touched.
+    if (FindCliCommand(arguments[2]) == nullptr) {
+        err << u"Unbekannter Befehl: "_s << arguments[2] << u'\n' << CliUsage();
         return 2;
     }
     Session session;
@@ -252,8 +237,8 @@ int RunCli(const QStringList& arguments, QTextStream& out, QTextStream& err)
     const QString command = arguments[2];
     if (command == u"info")
         return Info(session, out, err);
-    if (command == u"sql" && arguments.size() == 4)
-        return Sql(session, arguments[3], out);
+    if (command == u"sql")
+        return arguments.size() == 4 ? Sql(session, arguments[3], out) : UsageError(err, command);
     if (command == u"filter")
         return Filter(session, arguments.mid(3), out, err);
     if (command == u"fill")
@@ -262,12 +247,15 @@ int RunCli(const QStringList& arguments, QTextStream& out, QTextStream& err)
         return ImportCommand(session, arguments.mid(3), out, err);
     if (command == u"export")
         return ExportCommand(session, arguments.mid(3), out, err);
+    if (command == u"stats")
+        return StatsCommand(session, arguments.mid(3), out, err);
+    if (command == u"print")
+        return PrintCommand(session, arguments.mid(3), out, err);
     if (command == u"picture")
         return PictureCommand(session, arguments.mid(3), out, err);
     if (command == u"archive")
         return ArchiveCommand(session, arguments.mid(3), out, err);
-    err << CliUsage();
-    return 2;
+    return UsageError(err, command);
 }
 
 } // namespace heft

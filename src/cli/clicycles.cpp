@@ -1,7 +1,9 @@
 // heftarium-cli --cycle-db PATH cycles export [--series NAME]: writes the
 // cycle file as the cycle window's export does and prints its closing message.
 
+#include "clicommands.h"
 #include "cliexchange.h"
+#include "clihelp.h"
 
 #include "core/database.h"
 #include "cycles/cycleexport.h"
@@ -29,25 +31,21 @@ QString SeriesOf(const QStringList& arguments, const QFileInfo& cycleFile)
     return name.endsWith(CycleFileSuffix) ? name.chopped(CycleFileSuffix.size()) : QString();
 }
 
-// The cycle file lies in the data folder's DBs folder; a file elsewhere
-// takes its own folder as the data folder.
-QString DataFolderOf(const QFileInfo& cycleFile)
+} // namespace
+
+QString DataFolderOf(const QFileInfo& databaseFile)
 {
-    QDir folder = cycleFile.absoluteDir();
+    QDir folder = databaseFile.absoluteDir();
     if (folder.dirName() == u"DBs" && folder.cdUp())
         return folder.path();
-    return cycleFile.absolutePath();
+    return databaseFile.absolutePath();
 }
-
-} // namespace
 
 int CyclesCommand(const QStringList& arguments, QTextStream& out, QTextStream& err)
 {
     const QString path = arguments.value(1);
-    if (path.isEmpty() || arguments.value(2) != u"cycles" || arguments.value(3) != u"export") {
-        err << u"Aufruf: heftarium-cli --cycle-db DATEI cycles export [--series SERIE]\n"_s;
-        return 2;
-    }
+    if (path.isEmpty() || arguments.value(2) != u"cycles" || arguments.value(3) != u"export")
+        return UsageError(err, u"cycles"_s);
     const QFileInfo cycleFile(path);
     const QString series = SeriesOf(arguments, cycleFile);
     if (series.isEmpty()) {

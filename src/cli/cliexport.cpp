@@ -1,5 +1,5 @@
-#include "clicommands.h"
 #include "cliexchange.h"
+#include "clihelp.h"
 #include "clifilterwords.h"
 
 #include "core/config.h"
@@ -52,10 +52,8 @@ int ExportCommand(Session& session, const QStringList& arguments, QTextStream& o
     options.zyklus = TakeFlag(words, u"--zyklus"_s);
     const qsizetype format = words.indexOf(u"--format"_s);
     if (words.isEmpty() || words.first().startsWith(u"--"_s) || format < 0 || format + 1 >= words.size() ||
-        !ReadFormats(words[format + 1], options)) {
-        err << CliUsage();
-        return 2;
-    }
+        !ReadFormats(words[format + 1], options))
+        return UsageError(err, u"export"_s);
     if (!options.csv && !options.text && !options.html) {
         err << u"Bitte Export-Format auswählen.\n\n(CSV | TEXT | HTML)\n"_s;
         return 2;

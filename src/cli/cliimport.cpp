@@ -3,7 +3,7 @@
 // printing the window's two report boxes.
 
 #include "cliexchange.h"
-#include "clicommands.h"
+#include "clihelp.h"
 
 #include "core/config.h"
 #include "core/session.h"
@@ -73,10 +73,8 @@ QString Lines(const QString& text) { return QString(text).replace(u"\r\n"_s, u"\
 int ImportCommand(Session& session, const QStringList& words, QTextStream& out, QTextStream& err)
 {
     ImportRequest request;
-    if (!ReadRequest(words, request)) {
-        err << CliUsage();
-        return 2;
-    }
+    if (!ReadRequest(words, request))
+        return UsageError(err, u"import"_s);
     DbError error;
     if (!ReadConfiguration(session, &error)) {
         err << u"KONFIGURATION nicht lesbar: "_s << error.description << u'\n';

@@ -1,6 +1,7 @@
 #include "clipictures.h"
 #include "clicommands.h"
 #include "clifilterwords.h"
+#include "clihelp.h"
 
 #include "core/config.h"
 #include "core/picturenames.h"
@@ -94,8 +95,7 @@ int AddPicture(Session& session, QStringList words, QTextStream& out, QTextStrea
     if (TakeFlag(words, u"--overwrite"_s))
         prompter.answers << Answer::Ok;
     if (words.size() != 2 || !IsKind(kind)) {
-        err << CliUsage();
-        return 2;
+        return UsageError(err, u"picture"_s);
     }
     const int nr = words[0].toInt();
     const DropOutcome outcome =
@@ -115,8 +115,7 @@ int ShowPictures(Session& session, QStringList words, QTextStream& out, QTextStr
     if (kind.isEmpty())
         kind = KindWord(CoverKind);
     if (words.size() != 1 || !IsKind(kind)) {
-        err << CliUsage();
-        return 2;
+        return UsageError(err, u"picture"_s);
     }
     const int nr = words[0].toInt();
     if (kind != KindWord(IllustrationKind)) {
@@ -135,10 +134,8 @@ int ShowPictures(Session& session, QStringList words, QTextStream& out, QTextStr
 
 int ArchivePageCommand(Session& session, const QStringList& words, QTextStream& out, QTextStream& err)
 {
-    if (words.size() != 1) {
-        err << CliUsage();
-        return 2;
-    }
+    if (words.size() != 1)
+        return UsageError(err, u"archive"_s);
     RecordingOpener opener;
     QStringList statuses;
     ArchiveLinkClick(session, words[0].toInt(),
@@ -160,8 +157,7 @@ int ArchiveSearchCommand(Session& session, QStringList words, QTextStream& out, 
     const QStringList modes{u"Farbe"_s, u"Filter"_s};
     if (query.word1.isEmpty() || (!join.isEmpty() && !joins.contains(join)) ||
         (!mode.isEmpty() && !modes.contains(mode))) {
-        err << CliUsage();
-        return 2;
+        return UsageError(err, u"archive"_s);
     }
     query.join = static_cast<ArchiveJoin>(join.isEmpty() ? 0 : joins.indexOf(join));
     query.mode = mode == u"Farbe" ? ArchiveMode::Farbe : ArchiveMode::Filter;
@@ -214,8 +210,7 @@ int ArchiveCommand(Session& session, const QStringList& words, QTextStream& out,
         return ArchivePageCommand(session, words.mid(1), out, err);
     if (words.value(0) == u"search")
         return ArchiveSearchCommand(session, words.mid(1), out, err);
-    err << CliUsage();
-    return 2;
+    return UsageError(err, u"archive"_s);
 }
 
 } // namespace heft

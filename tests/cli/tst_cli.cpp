@@ -4,6 +4,8 @@
 #include "testmain.h"
 
 #include "cli/clicommands.h"
+#include "cli/clihelp.h"
+#include "core/version.h"
 
 #include <QTemporaryDir>
 #include <QTest>
@@ -75,6 +77,56 @@ private Q_SLOTS:
         const CliRun run = Run(arguments);
         QCOMPARE(run.code, code);
         QVERIFY(!run.err.isEmpty());
+    }
+
+    // Help and version answer on stdout before any file is touched; a wrong
+    // call answers on stderr with the way the command is called.
+    void helpAndUsage_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<int>("code");
+        QTest::addColumn<QString>("out");
+        QTest::addColumn<QString>("err");
+        const QString missing = u"/nirgends/x.mdb"_s;
+        QTest::newRow("version") << QStringList{u"--version"_s} << 0 << u"heftarium-cli "_s + heft::ProgramVersion()
+                                 << QString();
+        QTest::newRow("command help") << QStringList{u"import"_s, u"--help"_s} << 0 << u"--mode 0|1|2"_s << QString();
+        QTest::newRow("help behind a file") << QStringList{u"--db"_s, missing, u"export"_s, u"-h"_s} << 0
+                                            << u"--format dat,txt,html"_s << QString();
+        QTest::newRow("unknown command") << QStringList{u"--db"_s, missing, u"zeige"_s} << 2 << QString()
+                                         << u"Unbekannter Befehl: zeige"_s;
+        QTest::newRow("create incomplete") << QStringList{u"create"_s, u"x.mdb"_s, u"--series"_s, u"S"_s} << 2
+                                           << QString() << u"Mehr dazu: heftarium-cli create --help"_s;
+        QTest::newRow("cycles without action") << QStringList{u"--cycle-db"_s, missing, u"cycles"_s} << 2 << QString()
+                                               << u"heftarium-cli --cycle-db DATEI cycles export"_s;
+    }
+    void helpAndUsage()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(int, code);
+        QFETCH(QString, out);
+        QFETCH(QString, err);
+        const CliRun run = Run(arguments);
+        QCOMPARE(run.code, code);
+        QVERIFY2(out.isEmpty() ? run.out.isEmpty() : run.out.contains(out), qPrintable(run.out));
+        QVERIFY2(err.isEmpty() ? run.err.isEmpty() : run.err.contains(err), qPrintable(run.err));
+    }
+
+    // Every command of the table has its own help, and the whole help lists
+    // them all with their exit codes.
+    void everyCommandHelped()
+    {
+        const QString all = Run({u"--help"_s}).out;
+        QVERIFY(all.contains(u"  2  Falscher Aufruf"_s));
+        for (const heft::CliCommandHelp& command : heft::CliCommands()) {
+            const CliRun own = Run({command.name, u"--help"_s});
+            QCOMPARE(own.code, 0);
+            for (const QString& synopsis : command.synopses) {
+                QVERIFY2(synopsis.startsWith(u"heftarium-cli "_s), qPrintable(synopsis));
+                QVERIFY2(own.out.simplified().contains(synopsis), qPrintable(own.out));
+                QVERIFY2(all.simplified().contains(synopsis), qPrintable(synopsis));
+            }
+        }
     }
 };
 

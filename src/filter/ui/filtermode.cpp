@@ -35,6 +35,10 @@ FilterMode::FilterMode(MainWindow& window)
 
 void FilterMode::FilterClick()
 {
+    // The print window prints from the list that is in use; it goes when
+    // the list changes.
+    if (auto* print = m_window.findChild<QWidget*>(u"frm_print"_s, Qt::FindDirectChildrenOnly))
+        print->close();
     // Button and menu item have flipped themselves already; they go back to
     // the state from before the click, and that state decides.
     const bool filterOn = m_buttonDown;

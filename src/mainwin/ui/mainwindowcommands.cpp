@@ -17,7 +17,6 @@
 #include <QAction>
 #include <QCoreApplication>
 #include <QMenu>
-#include <QPrinterInfo>
 
 using namespace Qt::StringLiterals;
 
@@ -30,8 +29,6 @@ namespace {
 const QStringList EntryCommands = {u"mnu_insert"_s, u"mnu_edit"_s,   u"mnu_delete"_s,
                                    u"mnu_goto"_s,   u"mnu_print"_s,  u"mnu_export"_s,
                                    u"mnu_detail"_s, u"mnu_tibi"_s,   u"mnu_archiv"_s};
-
-bool SystemHasPrinter() { return !QPrinterInfo::availablePrinterNames().isEmpty(); }
 
 } // namespace
 
@@ -74,7 +71,6 @@ void MainWindow::EnableEntryCommands()
 {
     for (const QString& name : EntryCommands)
         m_commands->SetEnabled(name, true);
-    m_commands->SetEnabled(u"mnu_print"_s, SystemHasPrinter());
     m_commands->SetEnabled(u"mnu_archiv"_s, m_session->Config.SeriesName == u"Valdorin");
     m_commands->SetEnabled(u"mnu_detail"_s, m_detailsTableReadable);
 }

@@ -4,6 +4,7 @@
 #include "ui_splashwindow.h"
 
 #include "core/session.h"
+#include "core/version.h"
 
 #include <QDesktopServices>
 #include <QDir>
@@ -41,9 +42,7 @@ SplashWindow::SplashWindow(Session& session, QWidget* parent)
       m_ui(std::make_unique<Ui::SplashWindow>()), m_session(session)
 {
     m_ui->setupUi(this);
-    m_ui->lbl_version->setText(u"Version %1.%2.%3"_s.arg(HEFTARIUM_VERSION_MAJOR)
-                                   .arg(HEFTARIUM_VERSION_MINOR)
-                                   .arg(HEFTARIUM_VERSION_PATCH));
+    m_ui->lbl_version->setText(u"Version "_s + ProgramVersion());
 
     for (QLabel* closer : {m_ui->imgLogo, m_ui->lblProductName, m_ui->lblWarning, m_ui->lblPlatform, m_ui->lblCopyright})
         closer->installEventFilter(this);

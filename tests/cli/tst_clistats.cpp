@@ -1,0 +1,73 @@
+// The stats command: the report as the window shows it, the chart rows,
+// the window's first choices, and the exit code for a name or choice that
+// does not exist.
+
+#include "testmain.h"
+#include "testsupport.h"
+
+#include "cli/clicommands.h"
+
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+class TestCliStats : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void stats_data()
+    {
+        QTest::addColumn<QStringList>("words");
+        QTest::addColumn<int>("code");
+        QTest::addColumn<QString>("out");
+        QTest::addColumn<QString>("err");
+        QTest::newRow("cycle case-blind, rows")
+            << QStringList{u"Zyklus/Autoren"_s, u"--cycle"_s, u"i"_s, u"--rows"_s} << 0
+            << u"Anzahl der Heftromane in Liste         :    2 [100.0%]\n"
+               "Heftromane im Zyklus I                 :    2\n"
+               "- davon Hanno Velden               (HV):    1 [ 50.0%]\n"
+               "- davon Kurt Brandis               (KB):    1 [ 50.0%]\n"
+               "Anzahl\tHV\t1\nAnzahl\tKB\t1\n"_s
+            << QString();
+        // Without --author the window's first choice: the last author.
+        QTest::newRow("last author") << QStringList{u"Autor/Zyklen"_s} << 0
+                                     << u"Anzahl der Heftromane in Liste:    2 [100.0%]\n"
+                                        "Heftromane von Kurt Brandis   :    1\n"
+                                        "Erster Roman mit Nummer       :    1\n"
+                                        "Letzter Roman mit Nummer      :    1\n"
+                                        "Romandichte im Nummernbereich :  100.0%\n"
+                                        "- davon im Zyklus I           :    1 [ 50.0%]\n"_s
+                                     << QString();
+        QTest::newRow("unknown statistic")
+            << QStringList{u"Summe"_s} << 2 << QString()
+            << u"Unbekannte Angabe für die Statistik: \"Summe\". Möglich sind: Gesamt, Zyklen, Autoren, "
+               "Autor/Zyklen, Zyklus/Autoren, Report, Preis/Wert, Verleihwesen\n"_s;
+        QTest::newRow("unknown author")
+            << QStringList{u"Autor/Zyklen"_s, u"--author"_s, u"Nemo"_s} << 2 << QString()
+            << u"Unbekannte Angabe für --author: \"Nemo\". Möglich sind: Hanno Velden, Kurt Brandis\n"_s;
+        QTest::newRow("unknown chart") << QStringList{u"Preis/Wert"_s, u"--preiswert"_s, u"3"_s} << 2 << QString()
+                                       << u"Unbekannte Angabe für --preiswert: \"3\". Möglich sind: 0, 1, 2\n"_s;
+    }
+
+    void stats()
+    {
+        QFETCH(QStringList, words);
+        QFETCH(int, code);
+        QFETCH(QString, out);
+        QFETCH(QString, err);
+        heft::test::TempCollection c;
+        c.Add({{1, u"Kurt Brandis"_s, u"A"_s, 1, u"I"_s}, {2, u"Hanno Velden"_s, u"B"_s, 0, u"I"_s}});
+        const QString db = c.Path();
+        c.session.CollectionDb.reset();
+        QString printed, errors;
+        QTextStream outStream(&printed), errStream(&errors);
+        QCOMPARE(heft::RunCli(QStringList{u"--db"_s, db, u"stats"_s} + words, outStream, errStream), code);
+        outStream.flush();
+        errStream.flush();
+        QCOMPARE(printed, out);
+        QCOMPARE(errors, err);
+    }
+};
+
+HEFT_TEST(TestCliStats)
+#include "tst_clistats.moc"

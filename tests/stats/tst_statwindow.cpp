@@ -1,0 +1,117 @@
+// frm_stat on the shipped collection: stepping through all eight
+// statistics, the captions of the step buttons, which choice is offered,
+// and Esc. With STAT_SCREENSHOTS set, each statistic is saved as a picture
+// in that folder, for looking at the charts; STAT_DB names another list of
+// Heftromane with values to look at.
+
+#include "testmain.h"
+#include "testsupport.h"
+
+#include "core/config.h"
+#include "core/sqlwriters.h"
+#include "mainwin/ui/mainwindow.h"
+#include "stats/ui/statwindow.h"
+#include "stats/ui/statwindowinstall.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QComboBox>
+#include <QFile>
+#include <QGroupBox>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+using namespace Qt::StringLiterals;
+using namespace heft;
+
+class TestStatWindow : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void stepsThroughAllEight()
+    {
+        QTemporaryDir dir;
+        const QString path = dir.filePath(u"Heftarium.mdb"_s);
+        const QString other = qEnvironmentVariable("STAT_DB");
+        QVERIFY(QFile::copy(other.isEmpty() ? QStringLiteral(HEFTARIUM_RUNTIME_DIR) + u"/DBs/Heftarium.mdb"_s : other,
+                            path));
+        Session session;
+        ScriptedPrompter prompter;
+        session.prompter = &prompter;
+        session.log = Log(dir.filePath(u"Heftarium.log"_s));
+        QVERIFY(!OpenCollectionDatabase(session, path));
+        DbError error;
+        QVERIFY(ReadConfiguration(session, &error));
+        ReadParameters(session);
+        MainWindow main;
+        main.LoadList(session);
+        InstallStatisticsWindow(main);
+        QVERIFY(main.IsCommandEnabled(u"mnu_stat"_s));
+        // The menu command opens the window modal; it is closed from within.
+        QString opened;
+        QTimer closer;
+        QObject::connect(&closer, &QTimer::timeout, [&opened] {
+            if (QWidget* modal = QApplication::activeModalWidget()) {
+                opened = modal->objectName();
+                modal->close();
+            }
+        });
+        closer.start(20);
+        main.Command(u"mnu_stat"_s)->trigger();
+        closer.stop();
+        QCOMPARE(opened, u"frm_stat"_s);
+
+        StatWindow window(main);
+        window.Load();
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        QCOMPARE(window.windowTitle(), u"Statistik"_s);
+        auto* stat = window.findChild<QComboBox*>(u"cmb_stat"_s);
+        auto* next = window.findChild<QPushButton*>(u"btn_next"_s);
+        auto* prev = window.findChild<QPushButton*>(u"btn_prev"_s);
+        auto* authors = window.findChild<QComboBox*>(u"cmb_autoren"_s);
+        auto* cycles = window.findChild<QComboBox*>(u"cmb_zyklen"_s);
+        auto* priceValue = window.findChild<QComboBox*>(u"cmb_preiswert"_s);
+        auto* choices = window.findChild<QGroupBox*>(u"frm_4what"_s);
+        auto* text = window.findChild<QPlainTextEdit*>(u"txt_box1"_s);
+        QVERIFY(stat && next && prev && authors && cycles && priceValue && choices && text);
+        QVERIFY(window.findChild<QWidget*>(u"chart_stat"_s));
+        QCOMPARE(authors->currentIndex(), authors->count() - 1);
+
+        const QStringList names = StatisticNames();
+        const QByteArray shots = qgetenv("STAT_SCREENSHOTS");
+        for (int step = 0; step <= names.size(); ++step) {
+            const int index = step % names.size();
+            QCOMPARE(stat->currentIndex(), index);
+            QCOMPARE(next->text(), names[(index + 1) % names.size()]);
+            QCOMPARE(prev->text(), names[(index + names.size() - 1) % names.size()]);
+            const ChoiceControls expected = ChoiceControlsOf(static_cast<Statistic>(index));
+            QCOMPARE(choices->isEnabled(), expected.enabled);
+            QCOMPARE(authors->isVisible(), expected.authors);
+            QCOMPARE(cycles->isVisible(), expected.cycles);
+            QCOMPARE(priceValue->isVisible(), expected.priceValue);
+            QVERIFY(text->toPlainText().startsWith(u"Anzahl der Heftromane in Liste"_s));
+            QCOMPARE(text->toPlainText(), QString(window.Result().text).replace(u"\r\n"_s, u"\n"_s));
+            QCOMPARE(main.StatusPanelText(5), u"Fertig und Bereit."_s);
+            if (!shots.isEmpty())
+                window.grab().save(u"%1/stat%2.png"_s.arg(QString::fromLocal8Bit(shots)).arg(index + 1));
+            QTest::mouseClick(next, Qt::LeftButton);
+        }
+        // The sample has values, so "Preis/Wert" opened on their course.
+        stat->setCurrentIndex(int(Statistic::PreisWert));
+        QCOMPARE(priceValue->currentIndex(), int(ValuesAlong));
+        QTest::mouseClick(prev, Qt::LeftButton);
+        QCOMPARE(stat->currentIndex(), int(Statistic::Report));
+        stat->setCurrentIndex(0);
+        QTest::mouseClick(prev, Qt::LeftButton);
+        QCOMPARE(stat->currentIndex(), names.size() - 1);
+
+        QTest::keyClick(&window, Qt::Key_Escape);
+        QVERIFY(!window.isVisible());
+    }
+};
+
+HEFT_TEST(TestStatWindow)
+#include "tst_statwindow.moc"
