@@ -58,7 +58,7 @@ private Q_SLOTS:
         QTest::newRow("page 0 ends the drop") << u"scan.jpg"_s << u"illu"_s << u"0"_s << QList<Answer>() << QString()
                                               << QString() << 0;
         QTest::newRow("no page ends the drop") << u"scan.jpg"_s << u"illu"_s << QString() << QList<Answer>()
-                                               << QString() << 0;
+                                               << QString() << QString() << 0;
         QTest::newRow("overwrite agreed") << u"scan.jpg"_s << u"tibi"_s << QString() << QList<Answer>{Answer::Ok}
                                           << u"tibis/3tibi.jpg"_s << u"new"_s << 2;
         // Cancel spares the deletion and the closing message, not the copy.

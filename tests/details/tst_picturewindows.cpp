@@ -71,7 +71,6 @@ private Q_SLOTS:
         QTest::addColumn<QString>("target");
         QTest::addColumn<QString>("stored");
         QTest::newRow("cover") << u"cmb_tibi"_s << u"tibis/Valdorin (Heftromane)/2tibi.jpg"_s;
-        QTest::newRow("cutaway") << u"cmb_rize"_s << u"rizes/Valdorin (Heftromane)/2rize.jpg"_s;
         QTest::newRow("illustration, page 12") << u"cmb_illu"_s << u"illus/Valdorin (Heftromane)/2illu012.jpg"_s;
     }
     void dropOntoEachKind()
@@ -98,49 +97,6 @@ private Q_SLOTS:
         QVERIFY(QFileInfo::exists(fixture.collection.dir.filePath(stored)));
         QCOMPARE(fixture.collection.prompter.asked.size(), 1);
         QCOMPARE(fixture.collection.prompter.asked[0].title, u"Ziehen & Ablegen Info"_s);
-    }
-
-    void viewerOpensAndCloses()
-    {
-        Fixture fixture;
-        fixture.Picture(fixture.Store(u"tibi"_s) + u"2tibi.jpg"_s, {1440, 1000});
-        fixture.details->grab().save(QDir::temp().filePath(u"heftarium-bilder-tab.png"_s));
-        AnswerNextModal([](QWidget* viewer) {
-            QCOMPARE(viewer->objectName(), u"frm_tibi"_s);
-            QCOMPARE(viewer->findChild<QWidget*>(u"img_tibi"_s)->size(), QSize(720, 500));
-            viewer->grab().save(QDir::temp().filePath(u"heftarium-viewer.png"_s));
-            QTest::keyClick(viewer, Qt::Key_Space);
-        });
-        auto* button = fixture.details->findChild<QPushButton*>(u"btn_tibi"_s);
-        button->click();
-        QVERIFY(QApplication::activeModalWidget() == nullptr || QApplication::activeModalWidget() == fixture.details.get());
-        QVERIFY(button->styleSheet().contains(u"192, 255, 192"_s));
-        // No cutaway drawing: orange, and the status bar says so.
-        auto* rize = fixture.details->findChild<QPushButton*>(u"btn_rize"_s);
-        rize->click();
-        QVERIFY(rize->styleSheet().contains(u"255, 192, 128"_s));
-        QCOMPARE(fixture.window.StatusPanelText(5), u"Fertig [keine Rißzeichnung gefunden]."_s);
-    }
-
-    void illustrationPages()
-    {
-        Fixture fixture;
-        for (const QString& page : {u"003"_s, u"017"_s, u"042"_s})
-            fixture.Picture(fixture.Store(u"illu"_s) + u"2illu"_s + page + u".jpg"_s, {300, 1080});
-        auto* list = fixture.details->findChild<QListWidget*>(u"lst_illu"_s);
-        fixture.details->findChild<QPushButton*>(u"btn_illu"_s)->click();
-        QVERIFY(list->isVisible());
-        QCOMPARE(list->count(), 3);
-        QCOMPARE(list->item(1)->text(), u"Seite 017"_s);
-        fixture.details->grab().save(QDir::temp().filePath(u"heftarium-illu-list.png"_s));
-        list->setCurrentRow(1);
-        AnswerNextModal([](QWidget* viewer) {
-            QCOMPARE(viewer->windowTitle(), u"Innenillustration Seite 017 [#2]"_s);
-            QCOMPARE(viewer->findChild<QWidget*>(u"img_tibi"_s)->size(), QSize(150, 540));
-            viewer->close();
-        });
-        QTest::keyClick(list, Qt::Key_Return);
-        QVERIFY(!list->isVisible());
     }
 };
 
