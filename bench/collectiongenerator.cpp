@@ -80,7 +80,7 @@ bool GenerateCollection(const QString& path, int entries, const CollectionShape&
     auto db = CreateCollectionFile(path, u"Valdorin"_s, u"Heftromane"_s, &error);
     if (!db)
         return false;
-    db->BeginBulk();
+    db->BeginChange();
     {
         BatchInserter list(*db, u"INSERT INTO HEFTLIST VALUES "_s);
         BatchInserter details(*db, u"INSERT INTO Details VALUES "_s);
@@ -106,7 +106,7 @@ bool GenerateCollection(const QString& path, int entries, const CollectionShape&
                     nr > k ? nr - k : nr + k));
         }
     }
-    db->EndBulk();
+    db->EndChange();
     return true;
 }
 

@@ -100,10 +100,10 @@ double ImportMs(bool oneTransaction)
         EventRound observer;
         heft::FileImport import(session, list, observer);
         if (oneTransaction)
-            session.CollectionDb->BeginBulk();
+            session.CollectionDb->BeginChange();
         import.ImportChosenFile(listFile, heft::ImportMode::Insert, true);
         if (oneTransaction)
-            session.CollectionDb->EndBulk();
+            session.CollectionDb->EndChange();
         if (import.Refused() != 0 || list.Heftliste.Rows() != Entries + 1)
             qFatal("bench import incomplete: %d refused, %d rows", import.Refused(), list.Heftliste.Rows() - 1);
     });

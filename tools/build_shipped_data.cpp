@@ -91,12 +91,12 @@ void WriteCollection(const QString& path, const QString& kind, const std::vector
                      const std::vector<DetailsRecord>& details)
 {
     auto db = NewFile(path, kind);
-    db->BeginBulk();
+    db->BeginChange();
     for (const ListRecord& entry : entries)
         InsertEntry(*db, entry);
     for (const DetailsRecord& record : details)
         InsertDetails(*db, record);
-    db->EndBulk();
+    db->EndChange();
 }
 
 // The collector's marks: his list lines replace the reference lines of the
@@ -129,12 +129,12 @@ void WriteCycles(const QString& path, const QString& source)
     auto db = CreateCycleFile(path, &error);
     if (!db)
         throw BuildError(u"%1: %2"_s.arg(path, error.description));
-    db->BeginBulk();
+    db->BeginChange();
     for (const CycleRecord& r : ReadRecords<CycleReader, CycleRecord>(source, DatKind::Cycle, QString()))
         Run(*db, u"INSERT INTO ZyklusListe (Zyklus, NrVon, NrBis, ZeitVon, ZeitBis, Bezeichnung, Zyklusbereich) "
                  "VALUES (%1, %2, %3, %4, %5, %6, %7);"_s.arg(Text(r.Zyklus), r.NrVon, r.NrBis, r.ZeitVon, r.ZeitBis,
                                                               Text(r.Bezeichnung), Text(r.Zyklusbereich)));
-    db->EndBulk();
+    db->EndChange();
 }
 
 void CopyFile(const QString& from, const QString& to)

@@ -3,11 +3,13 @@
 #include "datafolder.h"
 
 #include "core/config.h"
+#include "core/fileproblems.h"
 #include "core/schema.h"
 #include "core/sqlwriters.h"
 #include "core/version.h"
 
 #include <QDateTime>
+#include <QDir>
 #include <QLocale>
 #include <QSysInfo>
 
@@ -55,6 +57,9 @@ QString StartLine()
 void ReportDatabaseOpenFailure(Session& session, const QString& name, const DbError& error)
 {
     session.WriteLog(error.number, u"Fehler beim Öffnen der %1 Tabelle: %2"_s.arg(name, error.description));
+    // The engine's words are English; the collector reads why in his own.
+    if (const QString reason = FileProblemText(error); !reason.isEmpty())
+        session.WriteLog(LogInfo, QDir::toNativeSeparators(name) + u": "_s + reason);
     session.prompter->Tell(u"Probleme beim Öffnen der DB"_s,
                            u"Die Heftarium Tabelle\n\n'%1'\n\nkonnte nicht geöffnet werden!"_s.arg(name),
                            MessageIcon::Critical);

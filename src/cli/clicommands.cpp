@@ -5,8 +5,10 @@
 #include "clipictures.h"
 #include "clihelp.h"
 #include "cliprint.h"
+#include "clisafety.h"
 
 #include "core/config.h"
+#include "core/fileproblems.h"
 #include "core/schema.h"
 #include "core/session.h"
 #include "core/sqlwriters.h"
@@ -111,16 +113,6 @@ int Filter(Session& session, const QStringList& words, QTextStream& out, QTextSt
 }
 
 
-// Takes "option VALUE" out of the words; false if the option isn't there.
-bool TakeOption(QStringList& words, const QString& option, QString& value)
-{
-    const qsizetype at = words.indexOf(option);
-    if (at < 0 || at + 1 >= words.size())
-        return false;
-    value = words[at + 1];
-    words.remove(at, 2);
-    return true;
-}
 
 // The value as the window's input for the target would hold it: the entry
 // of cmb_aufl or cmb_gel, an accepted cycle, or the text within the limit of
@@ -209,6 +201,20 @@ int Fill(Session& session, const QStringList& arguments, QTextStream& out, QText
 }
 } // namespace
 
+// Takes "option VALUE" out of the words; false if the option isn't there.
+bool TakeOption(QStringList& words, const QString& option, QString& value)
+{
+    const qsizetype at = words.indexOf(option);
+    if (at < 0 || at + 1 >= words.size())
+        return false;
+    value = words[at + 1];
+    words.remove(at, 2);
+    return true;
+}
+
+// The commands on an open collection, behind "--db PATH".
+int RunDbCommand(Session& session, const QStringList& arguments, QTextStream& out, QTextStream& err);
+
 int RunCli(const QStringList& arguments, QTextStream& out, QTextStream& err)
 {
     if (const int code = AnswerHelpRequest(arguments, out); code >= 0)
@@ -231,9 +237,21 @@ int RunCli(const QStringList& arguments, QTextStream& out, QTextStream& err)
     session.prompter = &prompter;
     session.DataFolder = QFileInfo(arguments[1]).absolutePath();
     if (const DbError error = OpenCollectionDatabase(session, arguments[1])) {
-        err << u"Probleme beim Öffnen der DB: "_s << error.description << u'\n';
+        const QString reason = FileProblemText(error);
+        err << u"Probleme beim Öffnen der DB: "_s << (reason.isEmpty() ? error.description : reason + u' ' + error.description)
+            << u'\n';
         return 1;
     }
+    const int code = RunDbCommand(session, arguments, out, err);
+    // What the window would have shown in a message box (a change the file
+    // could not take, a backup not made) goes to the error output.
+    for (const Message& message : std::as_const(prompter.asked))
+        err << message.title << u": "_s << message.text << u'\n';
+    return code;
+}
+
+int RunDbCommand(Session& session, const QStringList& arguments, QTextStream& out, QTextStream& err)
+{
     const QString command = arguments[2];
     if (command == u"info")
         return Info(session, out, err);
@@ -255,6 +273,12 @@ int RunCli(const QStringList& arguments, QTextStream& out, QTextStream& err)
         return PictureCommand(session, arguments.mid(3), out, err);
     if (command == u"archive")
         return ArchiveCommand(session, arguments.mid(3), out, err);
+    if (command == u"backup" && arguments.size() <= 4)
+        return BackupCommand(session, arguments.mid(3), out, err);
+    if (command == u"check")
+        return CheckCommand(session, out);
+    if (command == u"renumber")
+        return RenumberCommand(session, arguments.mid(3), out, err);
     return UsageError(err, command);
 }
 

@@ -16,5 +16,7 @@ const QString& CliUsage();
 // The data folder of a database file: the folder above DBs/ when the file
 // lies in one (bm/ and export/ are there), else the file's own folder.
 QString DataFolderOf(const QFileInfo& databaseFile);
+// Takes "option VALUE" out of the words; false if the option isn't there.
+bool TakeOption(QStringList& words, const QString& option, QString& value);
 
 } // namespace heft

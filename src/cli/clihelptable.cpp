@@ -113,6 +113,25 @@ const QList<CliCommandHelp>& CliCommands()
           {u"--mode Farbe|Filter"_s, u"Treffer markieren oder nur die Treffer behalten (Vorgabe)"_s}},
          {{1, u"Die Einstellungen sind nicht lesbar, oder es gibt keine Archivseite zum Eintrag."_s},
           {2, u"Unterbefehl, Stichwort, Verknüpfung oder Modus fehlen oder sind unbekannt."_s}}},
+        {u"backup"_s,
+         {u"heftarium-cli --db DATEI backup [ZIEL]"_s},
+         u"Legt sofort eine Sicherung der Sammlung an, wie das Programm sie bei der ersten Änderung eines Tages "
+         "anlegt: ohne ZIEL als Sicherung/{Name}-{Datum}.mdb neben der Datei."_s,
+         {},
+         {{1, u"Die Sicherung ließ sich nicht anlegen."_s}}},
+        {u"check"_s,
+         {u"heftarium-cli --db DATEI check"_s},
+         u"Prüft die Datei mit der Integritätsprüfung von SQLite und den Regeln der Sammlung (jede Zeile von "
+         "Details, Status, Gestaltung und Links gehört zu einem Eintrag, GL und RZ sind -1 oder 0, Zahlen in "
+         "Status sind mit Nullen aufgefüllt) und gibt aus, was sie findet."_s,
+         {},
+         {{1, u"Die Prüfung hat Fehler gefunden."_s}}},
+        {u"renumber"_s,
+         {u"heftarium-cli --db DATEI renumber ALT NEU [ALT NEU ...]"_s},
+         u"Nummeriert Einträge um wie das Bearbeiten-Fenster und gibt jede Umnummerierung aus."_s,
+         {},
+         {{1, u"Mindestens eine Umnummerierung ist gescheitert."_s},
+          {2, u"Die Nummern fehlen oder sind nicht paarweise angegeben."_s}}},
         {u"cycles"_s,
          {u"heftarium-cli --cycle-db DATEI cycles export [--series SERIE]"_s},
          u"Schreibt die Zyklen der Zyklus-Datenbank DATEI wie das Zyklusfenster nach export/{Serie}-Zyklus.dat im "

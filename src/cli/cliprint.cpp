@@ -3,6 +3,7 @@
 // rows]: the pages the print window would send to the printer, as PDF, and
 // their count.
 
+#include "clihelp.h"
 #include "clicommands.h"
 #include "clifilterwords.h"
 #include "clihelp.h"

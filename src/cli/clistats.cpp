@@ -1,3 +1,4 @@
+#include "clicommands.h"
 #include "clistats.h"
 
 #include "core/config.h"
@@ -9,17 +10,6 @@ using namespace Qt::StringLiterals;
 namespace heft {
 
 namespace {
-
-// Takes "option VALUE" out of the words; false if the option isn't there.
-bool TakeValue(QStringList& words, const QString& option, QString& value)
-{
-    const qsizetype at = words.indexOf(option);
-    if (at < 0 || at + 1 >= words.size())
-        return false;
-    value = words[at + 1];
-    words.remove(at, 2);
-    return true;
-}
 
 // The entry of `valid` that `given` names (case-blind), or a message that
 // lists the valid ones.
@@ -51,9 +41,9 @@ int StatsCommand(Session& session, const QStringList& words, QTextStream& out, Q
     QStringList rest = words;
     const bool withRows = rest.removeAll(u"--rows"_s) > 0;
     QString author, cycle, priceValue, name;
-    const bool authorGiven = TakeValue(rest, u"--author"_s, author);
-    const bool cycleGiven = TakeValue(rest, u"--cycle"_s, cycle);
-    const bool priceValueGiven = TakeValue(rest, u"--preiswert"_s, priceValue);
+    const bool authorGiven = TakeOption(rest, u"--author"_s, author);
+    const bool cycleGiven = TakeOption(rest, u"--cycle"_s, cycle);
+    const bool priceValueGiven = TakeOption(rest, u"--preiswert"_s, priceValue);
     if (rest.size() != 1 || !PickFrom(StatisticNames(), rest.value(0), u"die Statistik"_s, name, err))
         return 2;
     if (priceValueGiven && !PickFrom({u"0"_s, u"1"_s, u"2"_s}, priceValue, u"--preiswert"_s, priceValue, err))

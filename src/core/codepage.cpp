@@ -59,7 +59,7 @@ char16_t BuiltInWindows1252(unsigned char byte)
     return byte >= 0x80 && byte < 0xA0 ? HighBlock[byte - 0x80] : char16_t(byte);
 }
 
-QByteArray ToWindows1252(const QString& text)
+QByteArray ToWindows1252(const QString& text, qsizetype* unencodable)
 {
     const CodeTables& tables = Tables();
     QByteArray bytes;
@@ -73,7 +73,10 @@ QByteArray ToWindows1252(const QString& text)
         // A character beyond the 16-bit range is one character: one "?".
         if (text[i].isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate())
             ++i;
-        bytes += tables.fromUnicode.value(unicode, '?');
+        const char byte = tables.fromUnicode.value(unicode, '?');
+        if (byte == '?' && unencodable)
+            ++*unencodable;
+        bytes += byte;
     }
     return bytes;
 }

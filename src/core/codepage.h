@@ -8,7 +8,8 @@
 
 namespace heft {
 
-QByteArray ToWindows1252(const QString& text);
+// *unencodable, when given, grows by the characters that had to become "?".
+QByteArray ToWindows1252(const QString& text, qsizetype* unencodable = nullptr);
 QString FromWindows1252(const QByteArray& bytes);
 // Text of a web page, taken as raw bytes and decoded as UTF-8.
 QString Utf8ToText(const QByteArray& bytes);

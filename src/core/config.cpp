@@ -61,6 +61,7 @@ void ReadParameters(Session& session)
     config.ContentLimit = 255;
     config.PictureRoot = session.DataFolder;
     config.ArchiveRoot = session.DataFolder;
+    config.BackupDays = DefaultBackupDays;
 
     DbError failure;
     Query query = session.CollectionDb->Select(u"SELECT * FROM Parameter;"_s, &failure);
@@ -81,6 +82,9 @@ void ReadParameters(Session& session)
             break;
         case 4:
             config.ArchiveRoot = query.Text(2);
+            break;
+        case 5:
+            ReadNumber(query.Text(2), 0, 366, config.BackupDays);
             break;
         default:
             break;

@@ -15,7 +15,7 @@ class Session;
 // when the table can't be read; the caller then reports the failure. An empty
 // table is no failure and leaves the four values as they were.
 bool ReadConfiguration(Session& session, DbError* error);
-// Sets the four defaults, then reads Parameter; a missing table is no error.
+// Sets the defaults, then reads Parameter; a missing table is no error.
 // A number that doesn't fit its variable (0..255 for MaxAuflage, 16 bits for
 // ContentLimit) keeps the default.
 void ReadParameters(Session& session);

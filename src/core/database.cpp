@@ -5,7 +5,9 @@
 #include "jetfunctions.h"
 #include "sqlshape.h"
 
+#include <QFile>
 #include <QFileInfo>
+#include <QtEndian>
 
 #include <sqlite3.h>
 
@@ -80,6 +82,28 @@ bool ChangesSchema(const QString& sql)
     const QStringView start = QStringView(sql).trimmed().left(6);
     return start.compare(u"CREATE", Qt::CaseInsensitive) == 0 || start.left(4).compare(u"DROP", Qt::CaseInsensitive) == 0 ||
            start.left(5).compare(u"ALTER", Qt::CaseInsensitive) == 0;
+}
+
+// A file cut short shows itself in its header: the page count it names
+// needs more bytes than the file has. Only when no log of changes lies
+// beside it, whose pages would still belong to the file, and only when the
+// header's count is valid (written by the same change as its counter).
+bool IsCutShort(const QString& path)
+{
+    if (QFileInfo::exists(path + u"-wal"_s))
+        return false;
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return false;
+    const QByteArray header = file.read(100);
+    if (header.size() < 100 || !header.startsWith("SQLite format 3"))
+        return false;
+    const auto word = [&](int at) { return qFromBigEndian<quint32>(header.constData() + at); };
+    const quint16 sizeField = qFromBigEndian<quint16>(header.constData() + 16);
+    const qint64 pageSize = sizeField == 1 ? 65536 : sizeField;
+    if (word(24) != word(92))
+        return false;
+    return file.size() < pageSize * qint64(word(28));
 }
 
 // Shapes kept at most; a run of statements uses a handful.
@@ -233,8 +257,24 @@ std::unique_ptr<Database> Database::OpenWithFlags(const QString& path, int flags
 
 std::unique_ptr<Database> Database::Open(const QString& path, DbError* error)
 {
-    if (!QFileInfo(path).isFile()) {
+    const QFileInfo file(path);
+    if (!file.isFile()) {
         *error = OpenError(SQLITE_CANTOPEN, path);
+        return nullptr;
+    }
+    // SQLite would take an empty file for a new database and write into it.
+    if (file.size() == 0) {
+        *error = OpenError(SQLITE_NOTADB, path);
+        return nullptr;
+    }
+    if (IsCutShort(path)) {
+        *error = OpenError(SQLITE_CORRUPT, path);
+        return nullptr;
+    }
+    // SQLite opens a write-protected file for reading only; the program
+    // writes every change at once and has no use for it.
+    if (!file.isWritable()) {
+        *error = OpenError(SQLITE_READONLY, path);
         return nullptr;
     }
     return OpenWithFlags(path, SQLITE_OPEN_READWRITE, error);
@@ -303,20 +343,122 @@ void Database::DropStatements()
 
 DbError Database::Execute(const QString& jetSql)
 {
+    if (m_changeDepth > 0 && m_lostChange)
+        return m_lostChange;
+    if (m_changeDepth == 0) {
+        if (DbError refusal = RefusalOfChanges())
+            return refusal;
+    }
+    DbError error;
     if (const std::shared_ptr<CachedStatement> cached = Borrow(jetSql)) {
-        const DbError error = StepToEnd(m_db, cached->stmt, jetSql);
+        error = StepToEnd(m_db, cached->stmt, jetSql);
         GiveBack(*cached);
-        return error;
+    } else {
+        if (ChangesSchema(jetSql))
+            DropStatements();
+        const TranslatedSql translated = TranslateJetSql(jetSql);
+        error = RunPlain(m_db, translated.sql);
+        for (const QString& followUp : translated.followUps) {
+            if (error)
+                break;
+            error = RunPlain(m_db, followUp);
+        }
     }
-    if (ChangesSchema(jetSql))
-        DropStatements();
-    const TranslatedSql translated = TranslateJetSql(jetSql);
-    DbError error = RunPlain(m_db, translated.sql);
-    for (const QString& followUp : translated.followUps) {
-        if (error)
-            break;
-        error = RunPlain(m_db, followUp);
+    if (error)
+        NoteFailure(error);
+    return error;
+}
+
+DbError Database::RefusalOfChanges()
+{
+    if (m_damage)
+        return m_damage;
+    if (!QFileInfo::exists(m_path))
+        return PathGoneError(m_path);
+    return {};
+}
+
+void Database::NoteFailure(const DbError& error)
+{
+    if (error.number == JetDamaged)
+        m_damage = error;
+    // SQLite gives up the whole transaction on some errors (a full disk
+    // among them); what follows would then land piecemeal.
+    if (m_changeDepth > 0 && (LosesChange(error) || sqlite3_get_autocommit(m_db)))
+        m_lostChange = error;
+}
+
+void Database::BeginChange()
+{
+    if (m_changeDepth++ > 0)
+        return;
+    m_lostChange = RefusalOfChanges();
+    if (m_lostChange)
+        return;
+    if (const int rc = sqlite3_exec(m_db, "BEGIN", nullptr, nullptr, nullptr); rc != SQLITE_OK)
+        m_lostChange = JetErrorFromSqlite(m_db, rc, u"BEGIN"_s);
+}
+
+DbError Database::EndChange()
+{
+    if (m_changeDepth == 0 || --m_changeDepth > 0)
+        return {};
+    DbError lost = std::exchange(m_lostChange, {});
+    if (!lost) {
+        const int rc = sqlite3_exec(m_db, "COMMIT", nullptr, nullptr, nullptr);
+        if (rc != SQLITE_OK) {
+            lost = JetErrorFromSqlite(m_db, rc, u"COMMIT"_s);
+            if (lost.number == JetDamaged)
+                m_damage = lost;
+        }
     }
+    if (!sqlite3_get_autocommit(m_db))
+        sqlite3_exec(m_db, "ROLLBACK", nullptr, nullptr, nullptr);
+    return lost;
+}
+
+QStringList Database::IntegrityFaults(bool quick)
+{
+    QStringList faults;
+    sqlite3_stmt* stmt = nullptr;
+    int rc = sqlite3_prepare_v2(m_db, quick ? "PRAGMA quick_check" : "PRAGMA integrity_check", -1, &stmt, nullptr);
+    if (rc == SQLITE_OK)
+        rc = SQLITE_ROW;
+    while (rc == SQLITE_ROW && (rc = sqlite3_step(stmt)) == SQLITE_ROW) {
+        const QString line = QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_column_text(stmt, 0)));
+        if (line != u"ok")
+            faults << line;
+    }
+    if (rc != SQLITE_DONE)
+        faults << JetErrorFromSqlite(m_db, rc, {}).description;
+    sqlite3_finalize(stmt);
+    if (!faults.isEmpty())
+        m_damage = OpenError(SQLITE_CORRUPT, m_path);
+    return faults;
+}
+
+DbError Database::BackupTo(const QString& targetPath)
+{
+    sqlite3* target = nullptr;
+    int rc = sqlite3_open_v2(QFile::encodeName(targetPath).constData(), &target,
+                             SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
+    if (rc == SQLITE_OK) {
+        sqlite3_backup* backup = sqlite3_backup_init(target, "main", m_db, "main");
+        if (backup != nullptr) {
+            // All pages in one step: the program is the file's only user.
+            sqlite3_backup_step(backup, -1);
+            rc = sqlite3_backup_finish(backup);
+        } else {
+            rc = sqlite3_errcode(target);
+        }
+    }
+    // The copy stands alone: a plain file without a log of changes beside it.
+    if (rc == SQLITE_OK)
+        rc = sqlite3_exec(target, "PRAGMA journal_mode=DELETE", nullptr, nullptr, nullptr);
+    const DbError error = rc == SQLITE_OK ? DbError() : OpenError(rc, targetPath);
+    sqlite3_close(target);
+    if (error)
+        QFile::remove(targetPath);
     return error;
 }
 
@@ -341,9 +483,5 @@ QVariant Database::SelectValue(const QString& jetSql, DbError* error)
     }
     return query.Value(0);
 }
-
-void Database::BeginBulk() { sqlite3_exec(m_db, "BEGIN", nullptr, nullptr, nullptr); }
-
-void Database::EndBulk() { sqlite3_exec(m_db, "COMMIT", nullptr, nullptr, nullptr); }
 
 } // namespace heft

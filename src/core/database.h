@@ -4,6 +4,7 @@
 
 #include <QHash>
 #include <QString>
+#include <QStringList>
 #include <QVariant>
 
 #include <memory>
@@ -81,10 +82,26 @@ public:
     // First column of the first row, or a null variant.
     QVariant SelectValue(const QString& jetSql, DbError* error = nullptr);
 
-    // Bulk work (building the shipped files, benchmarks' physical floor):
-    // statements between these two run in one transaction.
-    void BeginBulk();
-    void EndBulk();
+    // Statements that belong together (one entry's change, a batch of an
+    // import) reach the file together or not at all: a program killed in
+    // between leaves the file as it was before. Pairs nest; only the
+    // outermost one commits. An error of one statement stays that
+    // statement's; but when the change as a whole is lost (disk full, file
+    // damaged or gone), the statements after it are refused with that error
+    // and EndChange rolls back and returns it.
+    void BeginChange();
+    DbError EndChange();
+    bool InChange() const { return m_changeDepth > 0; }
+    // The error that lost the running change; none while it stands.
+    const DbError& LostChange() const { return m_lostChange; }
+
+    // SQLite's own check of the file's structure; one line per fault found,
+    // none when the file is sound. Quick skips the checks of the indexes'
+    // content.
+    QStringList IntegrityFaults(bool quick);
+    // Copies the open file, as it stands after the last change, to a new
+    // file through SQLite's online backup.
+    DbError BackupTo(const QString& targetPath);
 
     QString Path() const { return m_path; }
 
@@ -96,8 +113,18 @@ private:
     // the text is then prepared as it stands.
     std::shared_ptr<CachedStatement> Borrow(const QString& jetSql);
     void DropStatements();
+    // Why a change may not start: the file was found damaged or is gone.
+    DbError RefusalOfChanges();
+    // After a failed statement: an error that leaves the file unable to
+    // take the running change marks it lost, and a damaged file is never
+    // written again.
+    void NoteFailure(const DbError& error);
     sqlite3* m_db = nullptr;
     QString m_path;
+    int m_changeDepth = 0;
+    DbError m_lostChange;
+    bool m_checked = false;
+    DbError m_damage;
     QHash<QString, std::shared_ptr<CachedStatement>> m_statements;
 };
 

@@ -50,6 +50,25 @@ DbError SyntaxError(const QString& sql)
     return {JetSyntaxInExpression, u"Syntax error (missing operator) in query expression '%1'."_s.arg(sql)};
 }
 
+// The answers about the file rather than the statement.
+DbError FileError(int primary, const QString& path)
+{
+    switch (primary) {
+    case SQLITE_FULL:
+        return {JetDiskFull, u"Not enough space on disk."_s};
+    case SQLITE_IOERR:
+        return {JetDiskError, u"Disk or network error."_s};
+    case SQLITE_READONLY:
+        return {JetReadOnly, u"Cannot update. Database or object is read-only."_s};
+    case SQLITE_CORRUPT:
+    case SQLITE_NOTADB:
+        return {JetDamaged, u"Cannot open database '%1'. It may not be a database that your application "
+                            "recognizes, or the file may be corrupt."_s.arg(path)};
+    default:
+        return {};
+    }
+}
+
 } // namespace
 
 DbError JetErrorFromSqlite(sqlite3* db, int resultCode, const QString& sql)
@@ -61,6 +80,8 @@ DbError JetErrorFromSqlite(sqlite3* db, int resultCode, const QString& sql)
     if (primary == SQLITE_BUSY || primary == SQLITE_LOCKED)
         return {JetFileInUse, u"Could not use '%1'; file already in use."_s.arg(
                                   QString::fromUtf8(sqlite3_db_filename(db, "main")))};
+    if (const DbError fileError = FileError(primary, QString::fromUtf8(sqlite3_db_filename(db, "main"))))
+        return fileError;
     if (primary == SQLITE_MISMATCH)
         return {JetTypeMismatch, u"Data type mismatch in criteria expression."_s};
     if (primary == SQLITE_ERROR) {
@@ -100,7 +121,29 @@ DbError OpenError(int resultCode, const QString& path)
     case SQLITE_CANTOPEN:
         return {JetFileNotFound, u"Could not find file '%1'."_s.arg(path)};
     default:
+        if (const DbError fileError = FileError(resultCode & 0xff, path))
+            return fileError;
         return {JetOtherError, QString::fromUtf8(sqlite3_errstr(resultCode))};
+    }
+}
+
+DbError PathGoneError(const QString& path)
+{
+    return {JetPathGone, u"'%1' is not a valid path. Make sure that the path name is spelled correctly and that "
+                         "you are connected to the server on which the file resides."_s.arg(path)};
+}
+
+bool LosesChange(const DbError& error)
+{
+    switch (error.number) {
+    case JetDiskFull:
+    case JetDiskError:
+    case JetReadOnly:
+    case JetDamaged:
+    case JetPathGone:
+        return true;
+    default:
+        return false;
     }
 }
 

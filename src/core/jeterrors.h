@@ -11,6 +11,10 @@ namespace heft {
 enum JetError : int {
     JetDuplicateKey = 3022,
     JetFileNotFound = 3024,
+    JetDiskFull = 3026,
+    JetReadOnly = 3027,
+    JetDiskError = 3043,
+    JetPathGone = 3044,
     JetFileInUse = 3045,
     JetTableExists = 3010,
     JetTooFewParameters = 3061,
@@ -23,6 +27,7 @@ enum JetError : int {
     JetFieldTooSmall = 3163,
     JetRequiredField = 3314,
     JetZeroLengthString = 3315,
+    JetDamaged = 3049,
     JetNotADatabase = 3343,
     JetNumericOverflow = 3349,
     JetIndexExists = 3375,
@@ -35,5 +40,10 @@ DbError JetErrorFromSqlite(sqlite3* db, int resultCode, const QString& sql);
 DbError TextAfterStatementError();
 DbError EmptyStatementError();
 DbError OpenError(int resultCode, const QString& path);
+// The file of an open database no longer stands where it was opened.
+DbError PathGoneError(const QString& path);
+// Errors after which the file can't take the running change: the disk is
+// full or failing, the file is damaged, read-only or gone.
+bool LosesChange(const DbError& error);
 
 } // namespace heft

@@ -11,6 +11,9 @@ namespace heft {
 
 class Session;
 
+// The attributes an entry can carry: ENum 1 to StatusCount of Status.
+constexpr int StatusCount = 19;
+
 // The statements run by UpgradeSchema, in their order.
 const QStringList& UpgradeStatements();
 // Runs the upgrade statements one after another through ExecuteSqlQuiet;

@@ -7,12 +7,15 @@
 #include "log.h"
 #include "prompter.h"
 
+#include <QDate>
 #include <QString>
 
 #include <functional>
 #include <memory>
 
 namespace heft {
+
+constexpr int DefaultBackupDays = 7;
 
 // What KONFIGURATION and Parameter say about the collection.
 struct Configuration {
@@ -24,6 +27,9 @@ struct Configuration {
     int ContentLimit = 255;
     QString PictureRoot;
     QString ArchiveRoot;
+    // Days of daily backups kept beside the collection (Parameter key 5);
+    // 0 makes none.
+    int BackupDays = DefaultBackupDays;
 };
 
 // The entry being written; its texts are already quoted with QuoteSql.
@@ -50,6 +56,9 @@ public:
     bool EditAccepted = false;
     int OldNr = 0;
     Configuration Config;
+    // The day whose first change has been seen: the backup of the day and
+    // the check of the file have been done.
+    QDate BackupDay;
     Log log;
     Prompter* prompter = nullptr;
     // Caption of the active window: ExecuteSql keeps quiet under the batch

@@ -1,5 +1,6 @@
 #include "sqlwriters.h"
 
+#include "changeunit.h"
 #include "jeterrors.h"
 #include "session.h"
 #include "textfuncs.h"
@@ -128,6 +129,13 @@ void MoveDependents(Session& session, int oldNr, int newNr) {
         ExecuteSql(session, u"UPDATE %1 SET Nr=%2 WHERE Nr=%3;"_s.arg(QStringView(table)).arg(newNr).arg(oldNr));
 }
 
+void MoveEntryRows(Session& session, int oldNr, int newNr) {
+    DeleteEntry(session, oldNr);
+    DeleteDetails(session, newNr);
+    MoveDetails(session, oldNr, newNr);
+    MoveDependents(session, oldNr, newNr);
+}
+
 QString LastChangeStamp(const QDateTime& moment) {
     return moment.toString(u"yyyy-MM-dd"_s) + u" um "_s + moment.toString(u"hh:mm:ss"_s);
 }
@@ -197,7 +205,10 @@ int ExecuteSqlQuiet(Session& session) {
 int ExecuteCycleSql(Session& session) {
     if (!session.CycleDb)
         return JetFileNotFound;
-    return session.CycleDb->Execute(session.CurrentSql).number;
+    ChangeUnit unit(session, *session.CycleDb);
+    const int result = session.CycleDb->Execute(session.CurrentSql).number;
+    const DbError lost = unit.Commit();
+    return result != 0 ? result : lost.number;
 }
 
 void CloseDatabases(Session& session) {

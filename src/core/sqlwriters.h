@@ -35,6 +35,10 @@ void DeleteDependents(Session& session, int nr);
 int DeleteEntryCascade(Session& session, int nr);
 int MoveDetails(Session& session, int oldNr, int newNr);
 void MoveDependents(Session& session, int oldNr, int newNr);
+// An entry renumbered to a free number, after the insert of its new row:
+// the old row goes, stray details under the new number give way (they must
+// not block the move), and everything that hung on the old number moves.
+void MoveEntryRows(Session& session, int oldNr, int newNr);
 // Rewrites attribute 1, "Letzte Änderung", with the present moment.
 void StampLastChange(Session& session, int nr);
 // The stamp text of a moment: "{yyyy-mm-dd} um {hh:mm:ss}".

@@ -3,6 +3,8 @@
 // them, and the reads that fill the window: the Details and Gestaltung rows,
 // the names offered in its combo boxes, the last-change stamp.
 
+#include "core/schema.h"
+
 #include <QDate>
 #include <QList>
 #include <QMap>
@@ -16,7 +18,6 @@ namespace heft {
 class Session;
 
 constexpr int PersonCount = 9;
-constexpr int StatusCount = 19;
 
 struct DetailsRow {
     QDate Erstdatum;

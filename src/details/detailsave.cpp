@@ -2,6 +2,7 @@
 
 #include "erstdatum.h"
 
+#include "core/changeunit.h"
 #include "core/session.h"
 #include "core/sqlwriters.h"
 #include "core/textfuncs.h"
@@ -82,6 +83,7 @@ QList<SaveStep> DetailSaveSteps(const DetailValues& values)
 
 void SaveDetails(Session& session, const DetailValues& values)
 {
+    ChangeUnit unit(session);
     for (const SaveStep& step : DetailSaveSteps(values)) {
         session.CurrentSql = step.Sql;
         if (ExecuteSql(session) != ExecuteDone && !step.OnError.isEmpty()) {

@@ -1,6 +1,7 @@
 #include "datfile.h"
 
 #include "core/codepage.h"
+#include "core/textfuncs.h"
 
 namespace heft {
 
@@ -37,7 +38,9 @@ bool DatOutputFile::Open(const QString& path)
 
 void DatOutputFile::WriteLine(const QString& line)
 {
-    const QByteArray bytes = ToWindows1252(line) + "\r\n";
+    // A line break inside a value would end the record early and cut it in
+    // two: the format has no way to hold one, so it becomes a blank.
+    const QByteArray bytes = ToWindows1252(StripLineBreaks(line), &m_unencodable) + "\r\n";
     if (m_file.write(bytes) != bytes.size())
         m_ok = false;
 }

@@ -32,10 +32,13 @@ public:
     void WriteLine(const QString& line);
     // Flushes and closes; false if anything could not be written.
     bool Close();
+    // Characters written as "?" because Windows-1252 has none for them.
+    qsizetype Unencodable() const { return m_unencodable; }
 
 private:
     QFile m_file;
     bool m_ok = true;
+    qsizetype m_unencodable = 0;
 };
 
 } // namespace heft

@@ -4,6 +4,8 @@
 // that turns values into lines. A record is a run of fields, each written as
 // "value"; with nothing escaped, so a value holding ";" cuts its field there.
 
+#include "core/schema.h"
+
 #include <QString>
 
 #include <array>
@@ -30,7 +32,6 @@ constexpr unsigned GoodListBits = FieldBit(1) | FieldBit(2) | FieldBit(3);
 constexpr unsigned GoodCycleBits = FieldBit(1) | FieldBit(2) | FieldBit(3) | FieldBit(4) | FieldBit(5) | FieldBit(6);
 constexpr unsigned GoodDetailsBits = FieldBit(1);
 
-constexpr int StatusCount = 19;
 constexpr int MaxLinks = 16;
 
 // Texts are as the reader cut them (limits applied, nothing quoted for SQL).

@@ -124,7 +124,7 @@ std::optional<int> RowNumber(const EntryCells& cells)
 }
 
 int WriteDetailsFile(Database& db, const Configuration& config, const ExportList& list, const ExportTarget& target,
-                     const ExportFeedback& feedback)
+                     const ExportFeedback& feedback, qsizetype& unencodable)
 {
     DatOutputFile file;
     file.Open(target.Path(u"_Details.dat"_s));
@@ -149,6 +149,7 @@ int WriteDetailsFile(Database& db, const Configuration& config, const ExportList
         }
     }
     file.Close();
+    unencodable += file.Unencodable();
     return written;
 }
 
@@ -167,8 +168,9 @@ QString ExportListLine(const EntryCells& cells)
     return ListLine(record);
 }
 
-int WriteDatFiles(Database& db, const Configuration& config, const ExportList& list, const ExportTarget& target,
-                  const ExportOptions& options, const ExportFeedback& feedback)
+DatFilesWritten WriteDatFiles(Database& db, const Configuration& config, const ExportList& list,
+                              const ExportTarget& target, const ExportOptions& options,
+                              const ExportFeedback& feedback)
 {
     feedback.Status(u"Exportiere Einträge ..."_s);
     const int rows = static_cast<int>(list.rows.size());
@@ -183,9 +185,11 @@ int WriteDatFiles(Database& db, const Configuration& config, const ExportList& l
     }
     file.Close();
 
-    const int details = options.details ? WriteDetailsFile(db, config, list, target, feedback) : 0;
+    DatFilesWritten written{0, file.Unencodable()};
+    if (options.details)
+        written.details = WriteDetailsFile(db, config, list, target, feedback, written.unencodable);
     feedback.Finish();
-    return details;
+    return written;
 }
 
 } // namespace heft

@@ -14,9 +14,14 @@ struct Configuration;
 // trimmed, Auflage as it stands or "-" when empty, "Ja" for a read mark.
 QString ExportListLine(const EntryCells& cells);
 
-// Writes {base}.dat and, with options.details, {base}_Details.dat. Returns
-// the number of entries that had a Details row (0 without details).
-int WriteDatFiles(Database& db, const Configuration& config, const ExportList& list, const ExportTarget& target,
-                  const ExportOptions& options, const ExportFeedback& feedback);
+struct DatFilesWritten {
+    int details = 0;             // entries that had a Details row (0 without details)
+    qsizetype unencodable = 0;   // characters written as "?"
+};
+
+// Writes {base}.dat and, with options.details, {base}_Details.dat.
+DatFilesWritten WriteDatFiles(Database& db, const Configuration& config, const ExportList& list,
+                              const ExportTarget& target, const ExportOptions& options,
+                              const ExportFeedback& feedback);
 
 } // namespace heft

@@ -145,8 +145,18 @@ void DeleteTempDat(const ExportTarget& target)
 QString RunExportChain(Session& session, const ExportList& list, const ExportTarget& target,
                        const ExportOptions& options, const ExportFeedback& feedback)
 {
-    const int details = WriteDatFiles(*session.CollectionDb, session.Config, list, target, options, feedback);
+    const DatFilesWritten written =
+        WriteDatFiles(*session.CollectionDb, session.Config, list, target, options, feedback);
+    const int details = written.details;
     QString result = DatResultText(target, options, static_cast<int>(list.rows.size()), details);
+    // Exchange files hold Windows-1252 only; what it lacks must not turn
+    // into question marks unnoticed.
+    if (written.unencodable > 0) {
+        const QString warning = u"Achtung: %1 Zeichen gibt es in der Zeichentabelle Windows-1252 der "
+                                "Austauschdateien nicht; sie stehen dort als \"?\"."_s.arg(written.unencodable);
+        result += CrLf + warning;
+        session.WriteLog(LogInfo, warning);
+    }
     if (options.text || options.html)
         WriteTextAndHtml(session, list, target, options, feedback, details, result);
     if (!options.csv)

@@ -3,6 +3,7 @@
 #include "datfile.h"
 #include "datreader.h"
 
+#include "core/changeunit.h"
 #include "core/session.h"
 #include "core/textfuncs.h"
 #include "mainwin/entrylist.h"
@@ -19,59 +20,74 @@ QString ReportLine(int line, const ListRecord& r) { return ListReportLine(line, 
 QString ReportLine(int line, const CycleRecord& r) { return CycleReportLine(line, r); }
 QString ReportLine(int line, const DetailsRecord& r) { return DetailsReportLine(line, r); }
 
+struct Outcome {
+    int ok = 0;
+    int errors = 0;
+};
+
 // The records go to the file in batches: with a commit per statement, or
 // even per record, an import would mostly wait for the file, since every
 // commit writes each page it touched once more. A program killed during an
 // import loses the records of the running batch, at most the last hundred
-// lines before it; everything before them is in the file. Esc and the end
-// of the file commit what was done. Savepoints, so that a caller's own
-// transaction (the benchmark's) stays one.
+// lines before it, each record whole or not at all; everything before them
+// is in the file. Esc and the end of the file commit what was done. A batch
+// the file could not take (full disk, damaged or vanished file) ends the
+// import, and its lines move from the report to the error list.
 class Batches {
 public:
-    explicit Batches(Database* db) : m_db(db) { Begin(); }
-    ~Batches() { End(); }
-    Batches(const Batches&) = delete;
-    Batches& operator=(const Batches&) = delete;
-
-    void RecordDone()
+    Batches(Session& session, Database& db, ImportTexts& texts, Outcome& outcome)
+        : m_db(db), m_unit(session, db), m_texts(texts), m_outcome(outcome), m_reportSize(texts.bericht.size())
     {
-        if (++m_records % RecordsPerCommit != 0)
-            return;
-        End();
-        Begin();
     }
+
+    void Taken(const QString& report) { m_taken << report; }
+
+    // After each record; false when the import must end.
+    bool RecordDone()
+    {
+        if (m_db.LostChange())
+            return Close();
+        if (++m_records % RecordsPerCommit != 0)
+            return true;
+        return Settle(m_unit.CommitAndContinue());
+    }
+    // The last batch; false when it was lost.
+    bool Close() { return Settle(m_unit.Commit()); }
 
 private:
-    void Begin()
+    bool Settle(const DbError& lost)
     {
-        if (m_db)
-            m_db->Execute(u"SAVEPOINT ImportBatch"_s);
-    }
-    void End()
-    {
-        if (m_db)
-            m_db->Execute(u"RELEASE ImportBatch"_s);
+        if (lost) {
+            m_texts.bericht.truncate(m_reportSize);
+            for (const QString& report : std::as_const(m_taken))
+                m_texts.fehler += u"DB-InsUpd "_s + report;
+            m_outcome.ok -= static_cast<int>(m_taken.size());
+            m_outcome.errors += static_cast<int>(m_taken.size());
+        }
+        m_taken.clear();
+        m_reportSize = m_texts.bericht.size();
+        return !lost;
     }
 
     static constexpr int RecordsPerCommit = 100;
-    Database* m_db;
+    Database& m_db;
+    ChangeUnit m_unit;
+    ImportTexts& m_texts;
+    Outcome& m_outcome;
+    qsizetype m_reportSize;
+    QStringList m_taken;
     int m_records = 0;
-};
-
-struct Outcome {
-    int ok = 0;
-    int errors = 0;
 };
 
 // The loop over the records of one file: every line is reported, a bad one
 // as "DatFormat ", one the database refused as "DB-InsUpd ". After each
 // line the observer may stop the import; what was written stays.
 template <typename Reader, typename Write>
-Outcome ReadRecords(DatInputFile& file, Reader& reader, Database* db, ImportObserver& observer, ImportTexts& texts,
-                    Write write)
+Outcome ReadRecords(Session& session, DatInputFile& file, Reader& reader, Database& db, ImportObserver& observer,
+                    ImportTexts& texts, Write write)
 {
     Outcome outcome;
-    Batches batches(db);
+    Batches batches(session, db, texts, outcome);
     int line = 0;
     while (!file.AtEnd()) {
         const auto& record = reader.Read(file.ReadLine());
@@ -82,14 +98,17 @@ Outcome ReadRecords(DatInputFile& file, Reader& reader, Database* db, ImportObse
         } else if (write(record) == 0) {
             ++outcome.ok;
             texts.bericht += report;
+            batches.Taken(report);
         } else {
             ++outcome.errors;
             texts.fehler += u"DB-InsUpd "_s + report;
         }
-        batches.RecordDone();
+        if (!batches.RecordDone())
+            return outcome;
         if (!observer.LineDone(file.Position()))
             break;
     }
+    batches.Close();
     return outcome;
 }
 
@@ -128,7 +147,7 @@ void FileImport::ImportDatFile(const QString& path, ImportMode mode)
         m_texts.caption = u"Bericht über %1 %2 Import"_s.arg(config.SeriesName, config.ListKind);
         ListReader reader(limits);
         int lastNr = 0;
-        outcome = ReadRecords(file, reader, m_session.CollectionDb.get(), m_observer, m_texts, [&](const ListRecord& r) {
+        outcome = ReadRecords(m_session, file, reader, *m_session.CollectionDb, m_observer, m_texts, [&](const ListRecord& r) {
             lastNr = static_cast<int>(Val(r.Nr));
             return WriteListRecord(m_session, m_list, r, mode);
         });
@@ -147,7 +166,7 @@ void FileImport::ImportDatFile(const QString& path, ImportMode mode)
         m_observer.CycleFileFound();
         m_texts.caption = u"Bericht über %1 Zyklen Import"_s.arg(config.SeriesName);
         CycleReader reader;
-        outcome = ReadRecords(file, reader, m_session.CycleDb.get(), m_observer, m_texts,
+        outcome = ReadRecords(m_session, file, reader, *m_session.CycleDb, m_observer, m_texts,
                               [&](const CycleRecord& r) { return WriteCycleRecord(m_session, r, mode); });
         break;
     }
@@ -155,7 +174,7 @@ void FileImport::ImportDatFile(const QString& path, ImportMode mode)
         m_texts.caption = u"Bericht über %1 Detaildaten Import"_s.arg(config.SeriesName);
         DetailsReader reader(limits);
         int sum = 0;
-        outcome = ReadRecords(file, reader, m_session.CollectionDb.get(), m_observer, m_texts, [&](const DetailsRecord& r) {
+        outcome = ReadRecords(m_session, file, reader, *m_session.CollectionDb, m_observer, m_texts, [&](const DetailsRecord& r) {
             return WriteDetailsRecord(m_session, r, mode, sum);
         });
         break;

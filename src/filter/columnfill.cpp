@@ -1,5 +1,6 @@
 #include "columnfill.h"
 
+#include "core/changeunit.h"
 #include "core/roman.h"
 #include "core/session.h"
 #include "core/sqlwriters.h"
@@ -78,7 +79,10 @@ PreparedValue Prepare(const FillRequest& request)
     }
     if (target.enumber != 0 && IsNumericStatus(target.enumber))
         return {{}, StoredStatusValue(target.enumber, NumericFillText(target.enumber, request.text))};
-    return {{}, Trim(request.text)};
+    // An attribute longer than its column would be refused by the file as a
+    // whole; it is cut as the attribute's own text box cuts it.
+    const QString text = Trim(request.text);
+    return {{}, target.enumber != 0 ? text.left(StatusValueLength) : text};
 }
 
 // The statements of one entry, then its stamp. Values for Gestaltung and
@@ -115,25 +119,26 @@ void WriteEntry(Session& session, const FillTarget& target, const PreparedValue&
 // The entries go to the file in batches: with a commit per statement a
 // fill over ten thousand entries would mostly wait for the file. An entry's
 // value and its stamp always land in the same batch, and a fill that is
-// stopped commits what it did.
+// stopped commits what it did. A batch the file could not take (full disk,
+// damaged or vanished file) ends the fill; it has been told to the user.
 class Batches {
 public:
-    explicit Batches(Database& db) : m_db(db) { m_db.BeginBulk(); }
-    ~Batches() { m_db.EndBulk(); }
-    Batches(const Batches&) = delete;
-    Batches& operator=(const Batches&) = delete;
+    explicit Batches(Session& session) : m_db(*session.CollectionDb), m_unit(session) {}
 
-    void EntryDone()
+    // False when the fill must end: its last batch was lost.
+    bool EntryDone()
     {
+        if (m_db.LostChange())
+            return !m_unit.Commit();
         if (++m_entries % EntriesPerCommit != 0)
-            return;
-        m_db.EndBulk();
-        m_db.BeginBulk();
+            return true;
+        return !m_unit.CommitAndContinue();
     }
 
 private:
     static constexpr int EntriesPerCommit = 100;
-    Database& m_db;
+    const Database& m_db;
+    ChangeUnit m_unit;
     int m_entries = 0;
 };
 
@@ -252,7 +257,7 @@ int FillColumn(Session& session, EntryList& list, const FillRequest& request, co
     const int rows = filter.Rows();
     int heftlisteRow = heftliste.Rows();
     int handled = 0;
-    Batches batches(*session.CollectionDb);
+    Batches batches(session);
     for (int row = rows - 1; row >= 1; --row) {
         if (row % 10 == 0)
             feedback.progress(rows - row);
@@ -265,9 +270,8 @@ int FillColumn(Session& session, EntryList& list, const FillRequest& request, co
             }
         }
         WriteEntry(session, target, value, nr.toInt());
-        batches.EntryDone();
         ++handled;
-        if (feedback.stopRequested())
+        if (!batches.EntryDone() || feedback.stopRequested())
             break;
     }
     // The current row is kept as a row number, so after the sort back the
@@ -281,12 +285,15 @@ int FillEntries(Session& session, const FillRequest& request, const QList<int>& 
 {
     const FillTarget& target = FillTargetAt(request.target);
     const PreparedValue value = Prepare(request);
-    Batches batches(*session.CollectionDb);
+    Batches batches(session);
+    int handled = 0;
     for (auto nr = numbers.crbegin(); nr != numbers.crend(); ++nr) {
         WriteEntry(session, target, value, *nr);
-        batches.EntryDone();
+        ++handled;
+        if (!batches.EntryDone())
+            break;
     }
-    return static_cast<int>(numbers.size());
+    return handled;
 }
 
 } // namespace heft

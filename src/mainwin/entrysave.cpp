@@ -2,6 +2,7 @@
 
 #include "entrylist.h"
 
+#include "core/changeunit.h"
 #include "core/session.h"
 #include "core/sqlwriters.h"
 #include "core/textfuncs.h"
@@ -36,6 +37,9 @@ EntrySaveOutcome WriteEntry(Session& session, EntryList& list)
     const int nr = session.Entry.Nr;
     const int oldNr = session.OldNr;
 
+    // Everything the save writes, renumbering and overwrite included, lands
+    // in the file as one change.
+    ChangeUnit unit(session);
     // The insert always runs first; ExecuteSql turns the duplicate key into
     // the kind of save this is.
     const int result = InsertEntry(session);
@@ -43,12 +47,8 @@ EntrySaveOutcome WriteEntry(Session& session, EntryList& list)
         return EntrySaveOutcome::Failed;
     if (result == ExecuteDone && session.EditMode) {
         // Renumbered to a free number: the entry now stands twice, and the
-        // old row goes with everything that hung on it moved over. Stray
-        // details under the new number must not block the move.
-        DeleteEntry(session, oldNr);
-        DeleteDetails(session, nr);
-        MoveDetails(session, oldNr, nr);
-        MoveDependents(session, oldNr, nr);
+        // old row goes with everything that hung on it moved over.
+        MoveEntryRows(session, oldNr, nr);
         list.RemoveEntryRows(oldNr);
         list.AddGridRow(nr);
     } else if (result > 0) {
@@ -64,6 +64,7 @@ EntrySaveOutcome WriteEntry(Session& session, EntryList& list)
             }
             break;
         case ExecuteDeclined:
+            // The unit ends with nothing written; the edit goes on.
             return EntrySaveOutcome::OverwriteDeclined;
         default:
             return EntrySaveOutcome::Failed;

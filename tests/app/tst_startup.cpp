@@ -100,69 +100,6 @@ private Q_SLOTS:
         QVERIFY(prompter.asked.isEmpty());
     }
 
-    void laterStartCopiesNothing()
-    {
-        {
-            Session session;
-            ScriptedPrompter prompter;
-            QVERIFY(Start(session, prompter));
-        }
-        QVERIFY(QFile::remove(Data() + u"/DBs/Heftarium.mdb"_s));
-        Session session;
-        ScriptedPrompter prompter;
-        QVERIFY(!Start(session, prompter));
-        QCOMPARE(prompter.asked.size(), 1);
-        QCOMPARE(prompter.asked[0].title, u"Probleme beim Öffnen der DB"_s);
-        QCOMPARE(prompter.asked[0].text, u"Die Heftarium Tabelle\n\n'%1/DBs/Heftarium.mdb'\n\nkonnte nicht "
-                                         "geöffnet werden!"_s.arg(Data()));
-        QCOMPARE(prompter.asked[0].icon, MessageIcon::Critical);
-        // The previous run's log was rotated; this run logged the failure.
-        QVERIFY(QFileInfo::exists(Data() + u"/Heftarium.old"_s));
-        QVERIFY(ReadLog(Data() + u"/Heftarium.log"_s).join(u'|').contains(u"[Fehler 3024]|Fehler beim Öffnen der "_s));
-    }
-
-    void deletedMarkerRestoresShippedFiles()
-    {
-        {
-            Session session;
-            ScriptedPrompter prompter;
-            QVERIFY(Start(session, prompter));
-            session.CollectionDb->Execute(u"DELETE FROM HEFTLIST;"_s);
-        }
-        QVERIFY(QFile::remove(Data() + u'/' + MarkerFile()));
-        Session session;
-        ScriptedPrompter prompter;
-        QVERIFY(Start(session, prompter));
-        QCOMPARE(session.CollectionDb->SelectValue(u"SELECT COUNT(*) FROM HEFTLIST;"_s).toInt(), 1);
-    }
-
-    void commandLineNames()
-    {
-        Session session;
-        ScriptedPrompter prompter;
-        QVERIFY(Start(session, prompter, u"  VN-TB.mdb "_s));
-        QCOMPARE(session.Config.ListKind, u"Taschenbücher"_s);
-        session = Session();
-
-        // A full path outside DBs opens after the first try failed.
-        DbError error;
-        const QString elsewhere = m_root.filePath(u"Anderswo.mdb"_s);
-        QVERIFY(CreateCollectionFile(elsewhere, u"Andere Serie"_s, u"Hefte"_s, &error));
-        Session second;
-        ScriptedPrompter prompter2;
-        QVERIFY(Start(second, prompter2, elsewhere));
-        QCOMPARE(second.Config.SeriesName, u"Andere Serie"_s);
-        // Its cycle file does not exist: logged, and the program goes on.
-        QVERIFY(!second.CycleDb);
-        QVERIFY(ReadLog(Data() + u"/Heftarium.log"_s).join(u'|').contains(u"Fehler beim Öffnen der Zyklus DB: "_s));
-        QVERIFY(prompter2.asked.isEmpty());
-
-        Session third;
-        ScriptedPrompter prompter3;
-        QVERIFY(!Start(third, prompter3, u"Gibtsnicht.mdb"_s));
-        QVERIFY(prompter3.asked.value(0).text.contains(u"'Gibtsnicht.mdb'"_s));
-    }
-
     void missingConfigurationEndsTheProgram()
     {
         DbError error;
@@ -177,15 +114,6 @@ private Q_SLOTS:
         QVERIFY(prompter.asked.value(0).text.contains(u"'Konfigurations'"_s));
     }
 
-    void withoutAllUsersFilesTheProgramFolderServes()
-    {
-        Session session;
-        ScriptedPrompter prompter;
-        session.prompter = &prompter;
-        MakeAllUsersFolder(m_app);
-        QVERIFY(StartSession(session, {m_user, m_root.filePath(u"nirgends/"_s), m_app, {}}));
-        QCOMPARE(session.DataFolder, m_app);
-    }
 };
 
 HEFT_TEST(TestStartup)

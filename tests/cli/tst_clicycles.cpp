@@ -26,8 +26,6 @@ private Q_SLOTS:
         QTest::addColumn<QString>("written"); // below the temporary folder, empty for none
         QTest::newRow("in DBs") << u"DBs/Valdorin Zyklus.mdb"_s << QStringList{} << 0
                                 << u"export/Valdorin-Zyklus.dat"_s;
-        QTest::newRow("series given") << u"Liste.mdb"_s << QStringList{u"--series"_s, u"Orion"_s} << 0
-                                      << u"export/Orion-Zyklus.dat"_s;
         QTest::newRow("series unknown") << u"Liste.mdb"_s << QStringList{} << 2 << QString();
         QTest::newRow("no such file") << u"Fehlt Zyklus.mdb"_s << QStringList{} << 1 << QString();
     }

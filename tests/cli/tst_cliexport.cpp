@@ -36,8 +36,6 @@ private Q_SLOTS:
                                        << u"Zu den gegebenen Filter-Kriterien"_s << QStringList() << QString();
         QTest::newRow("unknown format") << QStringList{u"--format"_s, u"pdf"_s} << 2 << QString() << QStringList()
                                         << QString();
-        QTest::newRow("no format") << QStringList{u"--format"_s, u""_s, u"--details"_s} << 2 << QString()
-                                   << QStringList() << QString();
         QTest::newRow("bad criterion") << QStringList{u"--format"_s, u"dat"_s, u"Nr:ÄHNLICH"_s} << 2 << QString()
                                        << QStringList() << QString();
     }

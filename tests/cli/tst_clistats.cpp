@@ -42,11 +42,6 @@ private Q_SLOTS:
             << QStringList{u"Summe"_s} << 2 << QString()
             << u"Unbekannte Angabe für die Statistik: \"Summe\". Möglich sind: Gesamt, Zyklen, Autoren, "
                "Autor/Zyklen, Zyklus/Autoren, Report, Preis/Wert, Verleihwesen\n"_s;
-        QTest::newRow("unknown author")
-            << QStringList{u"Autor/Zyklen"_s, u"--author"_s, u"Nemo"_s} << 2 << QString()
-            << u"Unbekannte Angabe für --author: \"Nemo\". Möglich sind: Hanno Velden, Kurt Brandis\n"_s;
-        QTest::newRow("unknown chart") << QStringList{u"Preis/Wert"_s, u"--preiswert"_s, u"3"_s} << 2 << QString()
-                                       << u"Unbekannte Angabe für --preiswert: \"3\". Möglich sind: 0, 1, 2\n"_s;
     }
 
     void stats()

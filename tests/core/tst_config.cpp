@@ -13,20 +13,6 @@ class TestConfig : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void newCollectionReadsBack()
-    {
-        TempCollection collection(u"Valdorin"_s, u"Taschenbücher"_s);
-        collection.session.Config = Configuration{};
-        DbError error;
-        QVERIFY(ReadConfiguration(collection.session, &error));
-        ReadParameters(collection.session);
-        const Configuration& config = collection.session.Config;
-        QCOMPARE(config.SeriesName, u"Valdorin"_s);
-        QCOMPARE(config.ListKind, u"Taschenbücher"_s);
-        QCOMPARE(config.MaxAuflage, 5);
-        QCOMPARE(config.ContentLimit, 255);
-        QCOMPARE(config.PictureRoot, collection.session.DataFolder);
-    }
 
     void longValuesAreCut()
     {
@@ -81,12 +67,10 @@ private Q_SLOTS:
         QTest::addColumn<int>("contentLimit");
         QTest::addColumn<QString>("pictureRoot");
         QTest::addColumn<QString>("archiveRoot");
-        QTest::newRow("nine printings") << QStringList{u"1, '9'"_s} << 9 << 255 << QString() << QString();
         QTest::newRow("numbers read like Val") << QStringList{u"1, ' 7 Stück'"_s, u"2, '1000,5'"_s} << 7 << 1000
                                                << QString() << QString();
         QTest::newRow("too large for its variable")
             << QStringList{u"1, '256'"_s, u"2, '40000'"_s} << 5 << 255 << QString() << QString();
-        QTest::newRow("no number gives 0") << QStringList{u"1, 'viele'"_s} << 0 << 255 << QString() << QString();
         QTest::newRow("Null value keeps the default") << QStringList{u"1, NULL"_s} << 5 << 255 << QString()
                                                       << QString();
         QTest::newRow("folders") << QStringList{u"3, '/mnt/bilder'"_s, u"4, '/media/archiv'"_s} << 5 << 255

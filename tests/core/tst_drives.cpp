@@ -4,9 +4,7 @@
 
 #include "core/drives.h"
 
-#include <QElapsedTimer>
 #include <QTest>
-#include <QTimer>
 
 using namespace Qt::StringLiterals;
 using namespace heft;
@@ -40,26 +38,6 @@ private Q_SLOTS:
         QString label;
         QCOMPARE(FindArchiveDrive(volumes, label), root);
         QCOMPARE(label, lastLabel);
-    }
-
-    void mountedVolumesEndInSlash()
-    {
-        const QList<Volume> volumes = MountedVolumes();
-        QVERIFY(!volumes.isEmpty());
-        for (const Volume& volume : volumes)
-            QVERIFY(volume.root.endsWith(u'/'));
-        QCOMPARE(VolumeLabel(volumes, volumes.first().root), volumes.first().label);
-    }
-
-    void waitKeepsEventsRunning()
-    {
-        bool fired = false;
-        QTimer::singleShot(5, this, [&] { fired = true; });
-        QElapsedTimer timer;
-        timer.start();
-        WaitMs(40);
-        QVERIFY(timer.elapsed() >= 40);
-        QVERIFY(fired);
     }
 };
 

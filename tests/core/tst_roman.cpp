@@ -17,11 +17,9 @@ private Q_SLOTS:
         QTest::addColumn<int>("expected");
         QTest::newRow("empty") << QString() << 0;
         QTest::newRow("year") << u"MCMXC"_s << 1990;
-        QTest::newRow("lower case") << u"mmxxiv"_s << 2024;
         QTest::newRow("subtractive") << u"XLIV"_s << 44;
         QTest::newRow("stops at a non-digit") << u"XIIabc"_s << 12;
         QTest::newRow("previous stays after subtracting") << u"IXC"_s << 107;
-        QTest::newRow("no digit at all") << u"- - -"_s << 0;
     }
     void romanToNumber()
     {
@@ -34,7 +32,6 @@ private Q_SLOTS:
     {
         QTest::addColumn<int>("number");
         QTest::addColumn<QString>("expected");
-        QTest::newRow("zero") << 0 << QString();
         QTest::newRow("year") << 1990 << u"MCMXC"_s;
         QTest::newRow("all steps") << 3999 << u"MMMCMXCIX"_s;
         QTest::newRow("beyond 3999") << 4001 << u"MMMMI"_s;
@@ -62,7 +59,6 @@ private Q_SLOTS:
         QTest::addColumn<QString>("value");
         QTest::newRow("empty") << QString() << false << true << QString();
         QTest::newRow("upper") << u"D"_s << true << true << u"500"_s;
-        QTest::newRow("lower") << u"x"_s << true << true << u"10"_s;
         QTest::newRow("two digits") << u"XI"_s << false << true << QString();
         QTest::newRow("not roman") << u"A"_s << false << false << QString();
         QTest::newRow("no cycle") << u"- - -"_s << false << false << QString();
@@ -76,14 +72,6 @@ private Q_SLOTS:
         QCOMPARE(IsRomanDigit(text), digit);
         QCOMPARE(IsRomanText(text), romanText);
         QCOMPARE(RomanDigitValue(text), value);
-    }
-
-    void keys()
-    {
-        for (const char c : "CDILMVXcdilmvx"_ba)
-            QVERIFY2(IsRomanKey(c), QByteArray(1, c).constData());
-        for (const int key : std::initializer_list<int>{0, 'A', 'Z', 'a', ' ', '0', 'C' + 0x10000})
-            QVERIFY(!IsRomanKey(key));
     }
 };
 

@@ -159,78 +159,6 @@ private Q_SLOTS:
         QVERIFY(!OpenCycleWindow(f.window));
     }
 
-    void unusableFile_data()
-    {
-        QTest::addColumn<bool>("open");
-        QTest::addColumn<QString>("title");
-        QTest::addColumn<QString>("text");
-        QTest::newRow("missing") << false << u"Probleme beim Öffnen der Zyklus-DB"_s
-                                 << u"Die Zyklus Datenbank\rkonnte nicht geöffnet werden!"_s;
-        QTest::newRow("no cycle table") << true << u"Probleme beim Lesen der Zyklus-DB"_s
-                                        << u"Die Zyklus Datenbank\rkonnte nicht gelesen werden!"_s;
-    }
-
-    void unusableFile()
-    {
-        QFETCH(bool, open);
-        QFETCH(QString, title);
-        QFETCH(QString, text);
-        Fixture f;
-        if (open) {
-            f.CycleExec(u"DROP TABLE ZyklusListe;"_s);
-        } else {
-            // Without a cycle file the list comes up with the command off.
-            f.session().CycleDb.reset();
-            f.window.LoadList(f.session());
-        }
-        QCOMPARE(f.window.IsCommandEnabled(u"mnu_zyklus"_s), open);
-        f.session().EditAccepted = true;
-        CycleWindow w(f.window);
-        w.Load();
-        QVERIFY(!w.isVisible());
-        QVERIFY(!f.session().EditAccepted);
-        QCOMPARE(f.collection.prompter.asked.size(), 1);
-        const Message& message = f.collection.prompter.asked[0];
-        QCOMPARE(message.title, title);
-        QCOMPARE(message.text, text);
-        QCOMPARE(message.icon, MessageIcon::Critical);
-        if (open) {
-            f.Open();
-            QVERIFY(!OpenCycleWindow(f.window));
-        }
-    }
-
-    void deleteLast_data()
-    {
-        QTest::addColumn<int>("cycles");
-        QTest::addColumn<Answer>("answer");
-        QTest::addColumn<int>("left");
-        QTest::newRow("yes") << 3 << Answer::Yes << 2;
-        QTest::newRow("no") << 3 << Answer::No << 3;
-        QTest::newRow("yes, one stays") << 2 << Answer::Yes << 1;
-    }
-
-    void deleteLast()
-    {
-        QFETCH(int, cycles);
-        QFETCH(Answer, answer);
-        QFETCH(int, left);
-        Fixture f(ThreeCycles.mid(0, cycles));
-        CycleWindow* w = f.Open();
-        QAction* remove = f.Action(*w, u"zmnu_delete"_s);
-        QVERIFY(remove->isEnabled());
-        f.collection.prompter.answers = {answer};
-        remove->trigger();
-        const Message& question = f.collection.prompter.asked.value(0);
-        QCOMPARE(question.title, u"Rückfrage Löschen"_s);
-        QCOMPARE(question.text, cycles == 3 ? u"Zykluseintrag #3 (III)\r'Kaiser'\rwirklich löschen?"_s
-                                            : u"Zykluseintrag #2 (II)\r'Nebel'\rwirklich löschen?"_s);
-        QCOMPARE(question.defaultButton, Answer::No);
-        QCOMPARE(w->Grid().CycleCount(), left);
-        QCOMPARE(f.CycleValue(u"SELECT COUNT(*) FROM ZyklusListe;"_s).toInt(), left);
-        QCOMPARE(remove->isEnabled(), left >= 2);
-    }
-
     void newCycle()
     {
         Fixture f(ThreeCycles.mid(0, 1));
@@ -362,36 +290,6 @@ private Q_SLOTS:
         QCOMPARE(f.window.StatusPanelText(5), u"Fertig und Bereit."_s);
     }
 
-    // The shipped cycle list: written back to the cycle file it was built
-    // from, byte for byte, and pictures of both windows to look at, whose
-    // columns must fit the window without a horizontal scroll bar.
-    void shippedList()
-    {
-        Fixture f(Cycles{}, u"I"_s);
-        QFile source(QStringLiteral(HEFTARIUM_DATA_SOURCES "/valdorin/Valdorin-Zyklus.dat"));
-        QVERIFY(source.open(QIODevice::ReadOnly));
-        const QByteArray sourceBytes = source.readAll();
-        const QStringList lines = FromWindows1252(sourceBytes).split(u"\r\n"_s, Qt::SkipEmptyParts);
-        for (const QString& line : lines.mid(1)) {
-            QStringList c = line.mid(1, line.size() - 3).split(u"\";\""_s);
-            f.CycleExec(u"INSERT INTO ZyklusListe VALUES ('%1', %2, %3, %4, %5, '%6', '%7');"_s.arg(
-                c[0], c[1], c[2], c[3], c[4], QuoteSql(c[5]), QuoteSql(c[6])));
-        }
-        CycleWindow* w = f.Open();
-        QVERIFY(w->Grid().width() >= w->Grid().ContentWidth());
-        QDir().mkpath(u"/tmp/shots"_s);
-        QVERIFY(w->grab().save(u"/tmp/shots/cycles_window.png"_s));
-        for (const QString& name : {u"zmnu_edit"_s, u"zmnu_insert"_s}) {
-            InEditor(f.Action(*w, name), [name](QDialog& dialog) {
-                QVERIFY(dialog.grab().save(u"/tmp/shots/cycles_%1.png"_s.arg(name.mid(5))));
-                dialog.reject();
-            });
-        }
-        f.Action(*w, u"zmnu_export"_s)->trigger();
-        QFile written(QDir(f.session().DataFolder).filePath(u"export/Valdorin-Zyklus.dat"_s));
-        QVERIFY(written.open(QIODevice::ReadOnly));
-        QCOMPARE(written.readAll(), sourceBytes);
-    }
 };
 
 HEFT_TEST(TestCycleWindow)

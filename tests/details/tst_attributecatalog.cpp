@@ -19,7 +19,6 @@ private Q_SLOTS:
         QTest::newRow("empty price stays empty") << 5 << u"   "_s << u""_s;
         QTest::newRow("price with fraction") << 5 << u"3.5"_s << u"00003.5"_s;
         QTest::newRow("price with comma") << 6 << u"3,5"_s << u"00003.5"_s;
-        QTest::newRow("whole count trimmed") << 2 << u" 120 "_s << u"0000120"_s;
         QTest::newRow("too long loses left digits") << 6 << u"12345678"_s << u"2345678"_s;
         QTest::newRow("german lending date") << 18 << u"01.03.2009"_s << u"2009-03-01"_s;
         QTest::newRow("text trimmed, apostrophe single") << 4 << u"  Hannes' Laden "_s << u"Hannes' Laden"_s;
@@ -40,7 +39,6 @@ private Q_SLOTS:
         QTest::addColumn<QString>("stored");
         QTest::addColumn<QString>("shown");
         QTest::newRow("padded fraction") << 5 << u"00003.5"_s << u"3.5"_s;
-        QTest::newRow("padded whole") << 2 << u"0000120"_s << u"120"_s;
         QTest::newRow("stored comma") << 6 << u"0003,50"_s << u"3.5"_s;
         QTest::newRow("trailing text ignored") << 10 << u"0000096 S."_s << u"96"_s;
         QTest::newRow("empty number") << 6 << u""_s << u""_s;
@@ -64,12 +62,10 @@ private Q_SLOTS:
         QTest::newRow("leading zeros") << 2 << u"007"_s << false << u"7"_s;
         QTest::newRow("empty number") << 5 << u"  "_s << false << u""_s;
         QTest::newRow("word as number") << 5 << u"drei"_s << true << QString();
-        QTest::newRow("two points") << 6 << u"3.5.1"_s << true << QString();
         QTest::newRow("no date is today") << 18 << u"letzte Woche"_s << false << u"2024-05-17"_s;
         QTest::newRow("impossible date is today") << 18 << u"31.02.2010"_s << false << u"2024-05-17"_s;
         QTest::newRow("two-digit year") << 18 << u"3.4.11"_s << false << u"2011-04-03"_s;
         QTest::newRow("1900 raised") << 18 << u"15.06.1900"_s << false << u"1901-01-01"_s;
-        QTest::newRow("2030 lowered") << 18 << u"2030-01-02"_s << false << u"2029-12-31"_s;
         QTest::newRow("empty date stays empty") << 18 << u""_s << false << u""_s;
         QTest::newRow("dates elsewhere are text") << 16 << u"1.1.1800"_s << false << u"1.1.1800"_s;
     }

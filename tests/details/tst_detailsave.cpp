@@ -134,7 +134,6 @@ private Q_SLOTS:
         QTest::newRow("a week after the previous issue") << u"01.03.2009"_s << QDate(2009, 3, 8);
         QTest::newRow("imported ISO form") << u"2009-12-28"_s << QDate(2010, 1, 4);
         QTest::newRow("marker means unknown") << u"31.12.1900"_s << today;
-        QTest::newRow("unreadable text") << u"irgendwann"_s << today;
         QTest::newRow("no previous details") << QString() << today;
     }
     void suggestedDate()
@@ -147,13 +146,6 @@ private Q_SLOTS:
         QCOMPARE(SuggestedErstdatum(collection.session, 42, QDate(2024, 5, 17)), expected);
     }
 
-    void dateForms()
-    {
-        QCOMPARE(LongDate(QDate(2009, 3, 1)), u"Sonntag, 1. März 2009"_s);
-        QCOMPARE(ShortDate(QDate(2009, 3, 1)), u"01.03.2009"_s);
-        QCOMPARE(ShortDate(MarkerDate()), u"31.12.1900"_s);
-        QCOMPARE(ErstdatumFromText(u"08.03.2009"_s), QDate(2009, 3, 8));
-    }
 };
 
 HEFT_TEST(TestDetailSave)

@@ -139,21 +139,6 @@ private Q_SLOTS:
         QVERIFY(!QFile::exists(e.target.Path(u".dat"_s)));
     }
 
-    // Singular texts; and a file from a longer export before is cut to
-    // the new one.
-    void oneEntry()
-    {
-        Export e;
-        e.Run(Options(u"t"_s));
-        const ExportList one = ExportRows(e.collection, u"SELECT * FROM HEFTLIST WHERE Nr=2;"_s);
-        QVERIFY(e.Run(Options(u"c"_s), one)
-                    .startsWith(u"Es wurde 1/0 Eintrag exportiert.\r\nVerwendeter Dateiname:\r\n"_s));
-        e.Run(Options(u"t"_s), one);
-        const QStringList text = e.Lines(u".txt"_s);
-        QCOMPARE(text.size(), 5);
-        QCOMPARE(text.last(), u"Valdorin Heftromane Nummer 2-2 (1 Eintrag)"_s);
-    }
-
     void detailsText()
     {
         Export e;
@@ -276,8 +261,6 @@ private Q_SLOTS:
                                                    u".html"_s}
                                     << QStringList{u"CSV"_s, u"CSV Details"_s, u"Text"_s, u"Html"_s, u"Text Details"_s}
                                     << u".dat _Details.dat"_s;
-        QTest::newRow("text with details, no csv") << u"td"_s << QStringList{u".txt"_s, u"_Details.txt"_s}
-                                                   << QStringList{u"Text"_s, u"Text Details"_s} << QString();
     }
 
     void resultText()

@@ -1,5 +1,5 @@
 // frm_export over a real main window: the first checked format picks the
-// save dialog, no format gets the message, a cancel is told, a run shows
+// save dialog, no format gets the message, a run shows
 // its result and leaves the files; a filter list is exported as filtered.
 
 #include "exportfixture.h"
@@ -13,14 +13,12 @@
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
-#include <QDesktopServices>
 #include <QDir>
 #include <QGroupBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
-#include <QUrl>
 
 using namespace Qt::StringLiterals;
 using namespace heft;
@@ -83,48 +81,12 @@ QString Result(QWidget& dialog)
     return Child<QPlainTextEdit>(dialog, u"txt_result"_s)->toPlainText();
 }
 
-// Takes the place of the desktop's file manager.
-class UrlCatcher : public QObject {
-    Q_OBJECT
-
-public Q_SLOTS:
-    void Open(const QUrl& url) { urls << url; }
-
-public:
-    QList<QUrl> urls;
-};
-
 } // namespace
 
 class TestExportWindow : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    // The captions the user reads, by the names the code knows them by.
-    void controls()
-    {
-        ExportWindow w;
-        ExportDialog dialog(w.window, w.Chooser());
-        QCOMPARE(dialog.objectName(), u"frm_export"_s);
-        QCOMPARE(dialog.windowTitle(), u"Einträge exportieren"_s);
-        const QList<std::pair<QString, QString>> buttons = {{u"btn_expdir"_s, u"&Verzeichnis Öffnen"_s},
-                                                            {u"btn_choose"_s, u"&Datei auswählen ..."_s},
-                                                            {u"btn_ok"_s, u"&Schließen"_s}};
-        for (const auto& [name, text] : buttons)
-            QCOMPARE(Child<QPushButton>(dialog, name)->text(), text);
-        const QList<std::pair<QString, QString>> boxes = {{u"chk_zyklus"_s, u"leere(r) Zyklus/Auflage als '-'"_s},
-                                                          {u"chk_gelesen"_s, u"mit Spalte GE (gelesen)"_s},
-                                                          {u"chk_details"_s, u"mit Detailinfo"_s},
-                                                          {u"chk_text"_s, u"TEXT (ASCII Liste)"_s},
-                                                          {u"chk_html"_s, u"HTML (I-Web Liste)"_s},
-                                                          {u"chk_csv"_s, u"CSV (Ex/Import Liste)"_s}};
-        for (const auto& [name, text] : boxes)
-            QCOMPARE(Child<QCheckBox>(dialog, name)->text(), text);
-        QCOMPARE(Child<QGroupBox>(dialog, u"frm_detail"_s)->title(), u"Datenumfang"_s);
-        QCOMPARE(Child<QGroupBox>(dialog, u"frm_format"_s)->title(), u"Format"_s);
-        QCOMPARE(Child<QGroupBox>(dialog, u"frm_result"_s)->title(), u"Export Ergebnis"_s);
-        QVERIFY(Child<QPlainTextEdit>(dialog, u"txt_result"_s)->isReadOnly());
-    }
 
     void formats_data()
     {
@@ -133,7 +95,6 @@ private Q_SLOTS:
         QTest::addColumn<QStringList>("files");
         QTest::newRow("csv before text") << u"tcd"_s << u"dat"_s
                                          << QStringList{u".dat"_s, u"_Details.dat"_s, u".txt"_s, u"_Details.txt"_s};
-        QTest::newRow("text before html") << u"ht"_s << u"txt"_s << QStringList{u".txt"_s, u".html"_s};
         QTest::newRow("html alone") << u"hd"_s << u"html"_s << QStringList{u".html"_s, u"_Details/1.html"_s};
         QTest::newRow("no format") << u"dgz"_s << QString() << QStringList();
     }
@@ -174,16 +135,6 @@ private Q_SLOTS:
         QVERIFY(dialog.isEnabled());
     }
 
-    void cancel()
-    {
-        ExportWindow w;
-        ExportDialog dialog(w.window, w.Chooser(true));
-        Check(dialog, u"c"_s);
-        Child<QPushButton>(dialog, u"btn_choose"_s)->click();
-        QCOMPARE(Result(dialog), u"Keine Export Datei ausgewählt."_s);
-        QVERIFY(QDir(w.asked.folder).isEmpty());
-    }
-
     // Opened by the menu command, modal, on the filter list when a filter
     // is in force; Esc closes it only when no export runs.
     void filterListFromMenu()
@@ -212,7 +163,6 @@ private Q_SLOTS:
                 openWhileBusy = dialog->isVisible();
             });
             Child<QPushButton>(*dialog, u"btn_choose"_s)->click();
-            dialog->grab().save(u"/tmp/shots/export_window.png"_s);
             QTest::keyClick(dialog, Qt::Key_Escape);
             closedByEsc = !dialog->isVisible();
         });
@@ -224,18 +174,6 @@ private Q_SLOTS:
         const QStringList text = FileLines(w.Path(u".txt"_s));
         QCOMPARE(text.size(), 2 + 2 + 2);
         QCOMPARE(text.last(), u"Valdorin Heftromane gefiltert nach: Nr größer als 1  (2 Einträge)"_s);
-    }
-
-    void openFolder()
-    {
-        ExportWindow w;
-        ExportDialog dialog(w.window, w.Chooser());
-        UrlCatcher catcher;
-        QDesktopServices::setUrlHandler(u"file"_s, &catcher, "Open");
-        Child<QPushButton>(dialog, u"btn_expdir"_s)->click();
-        QDesktopServices::unsetUrlHandler(u"file"_s);
-        QCOMPARE(catcher.urls,
-                 QList<QUrl>{QUrl::fromLocalFile(QDir(w.collection.session.DataFolder).filePath(u"export"_s))});
     }
 };
 

@@ -122,9 +122,6 @@ private Q_SLOTS:
         QTest::newRow("only imported keeps empty fields")
             << 2 << sparse << 0 << oldDetails << u"Tibi|I2|0|Objekt|Zeichner"_s << u"1=neu eins,5=0000003"_s
             << u"1:12:Neuer Link"_s;
-        QTest::newRow("only imported without status part")
-            << 2 << withoutStatus << 0 << u"2006-10-05|Neuer Untertitel|Olga|Neuer Inhalt"_s << u"T2|I2|-1|O2|Z2"_s
-            << oldStatus << oldLinks;
     }
 
     void detailsFile()
@@ -224,8 +221,6 @@ private Q_SLOTS:
 
         QTest::newRow("empty file") << QString() << QStringList() << u"Keine Import Datei ausgewählt."_s
                                     << u"%1 ist keine gültige Importdatei."_s;
-        QTest::newRow("other series") << u"[Andere Heftromane]"_s << QStringList() << u"Keine Import Datei ausgewählt."_s
-                                      << u"%1 ist keine gültige Importdatei."_s;
         QTest::newRow("header only") << ListHead << QStringList()
                                      << u"Es konnten keine Datensätze in die DB importiert werden."_s
                                      << u"Es sind keine Fehler aufgetreten."_s;

@@ -1,6 +1,5 @@
-// frm_filter on a real collection: which editor and comparison words a row
-// offers, when rows open and btn_ausf may run, the keys and Enter, and runs
-// that are refused or find nothing.
+// frm_filter on a real collection: when btn_ausf may run, a refused cycle
+// value, and runs that find nothing.
 
 #include "testmain.h"
 #include "testsupport.h"
@@ -10,7 +9,6 @@
 #include "mainwin/ui/mainwindow.h"
 
 #include <QComboBox>
-#include <QDateEdit>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
@@ -65,14 +63,6 @@ struct OpenDialog {
     std::optional<FilterDialog> dialog;
 };
 
-QStringList Entries(const QComboBox* list)
-{
-    QStringList entries;
-    for (int i = 0; i < list->count(); ++i)
-        entries << list->itemText(i);
-    return entries;
-}
-
 } // namespace
 
 class TestFilterDialog : public QObject {
@@ -111,119 +101,6 @@ private Q_SLOTS:
         QCOMPARE(open.dialog->IsFilterComplete(), enabled);
     }
 
-    // A joining word opens the next row; "Keine" closes the rows behind it
-    // and resets their joining words.
-    void rowsOpenAndClose()
-    {
-        OpenDialog open;
-        QVERIFY(!open.Find(u"cmb_choose1"_s)->isEnabled());
-        QVERIFY(open.Find(u"cmb_logic2"_s)->isHidden());
-        open.Apply({u"0:type=5"_s, u"0:logic=UND"_s, u"1:type=6"_s, u"1:logic=ODER"_s});
-        QVERIFY(open.Find(u"txt_12"_s)->isEnabled());
-        open.Apply({u"0:logic=Keine"_s});
-        for (const QString& name :
-             {u"cmb_choose1"_s, u"txt_11"_s, u"cmb_logic1"_s, u"cmb_choose2"_s, u"txt_12"_s})
-            QVERIFY2(!open.Find(name)->isEnabled(), qPrintable(name));
-        QCOMPARE(open.Find<QComboBox>(u"cmb_logic1"_s)->currentText(), u"Keine"_s);
-    }
-
-    // Each field shows one value editor, its comparison words and entries;
-    // a new text box starts empty.
-    void editors_data()
-    {
-        const QStringList four = {u"IST"_s, u"UNGLEICH"_s, u"KLEINER"_s, u"GRÖßER"_s};
-        const QStringList three = {u"IST"_s, u"UNGLEICH"_s, u"ÄHNLICH"_s};
-        QTest::addColumn<QString>("field");
-        QTest::addColumn<QString>("editor");
-        QTest::addColumn<QStringList>("compare");
-        QTest::addColumn<QStringList>("entries");
-        QTest::addColumn<int>("index");
-        QTest::newRow("title") << u"Titel"_s << u"txt_1"_s << three << QStringList() << -1;
-        QTest::newRow("cycle") << u"Zyklus"_s << u"txt_1"_s << four << QStringList() << -1;
-        const QStringList printings = {u"Keine"_s, u"-1-"_s, u"-2-"_s, u"-3-"_s, u"-4-"_s, u"-5-"_s};
-        QTest::newRow("printing") << u"Auflage"_s << u"cmb_aufl"_s << four << printings << 1;
-        QTest::newRow("read") << u"Gelesen"_s << u"cmb_gel"_s << QStringList{u"IST"_s}
-                              << QStringList{u"Ja"_s, u"Nein"_s} << 0;
-        QTest::newRow("date") << u"Datum"_s << u"dtp_datum"_s << four << QStringList() << -1;
-        QTest::newRow("author") << u"Autor"_s << u"cmb_univ"_s << three
-                                << QStringList{u"Ada Quell"_s, u"Bert Lohmann"_s, u"Cora Wendt"_s} << 0;
-        QTest::newRow("condition") << u"Zustand"_s << u"cmb_univ"_s << three
-                                   << QStringList{u"gut"_s, u"mäßig"_s, u"<LEER>"_s} << 0;
-    }
-    void editors()
-    {
-        QFETCH(QString, field);
-        QFETCH(QString, editor);
-        QFETCH(QStringList, compare);
-        QFETCH(QStringList, entries);
-        QFETCH(int, index);
-        OpenDialog open;
-        open.Apply({u"0:type=42"_s, u"0:field="_s + field});
-        QStringList shown;
-        for (const QString& name : {u"txt_1"_s, u"cmb_univ"_s, u"cmb_aufl"_s, u"cmb_gel"_s, u"dtp_datum"_s})
-            if (!open.Find(name + u"0"_s)->isHidden())
-                shown << name;
-        QCOMPARE(shown, QStringList{editor});
-        QCOMPARE(Entries(open.Find<QComboBox>(u"cmb_ver0"_s)), compare);
-        if (editor == u"txt_1")
-            QCOMPARE(open.Find<QLineEdit>(u"txt_10"_s)->text(), QString());
-        if (editor == u"dtp_datum")
-            QCOMPARE(open.Find<QDateEdit>(u"dtp_datum0"_s)->date(), QDate::currentDate());
-        if (auto* list = open.Find<QComboBox>(editor + u"0"_s); list && !entries.isEmpty()) {
-            QCOMPARE(Entries(list), entries);
-            QCOMPARE(list->currentIndex(), index);
-        }
-    }
-
-    void keys_data()
-    {
-        QTest::addColumn<QString>("field");
-        QTest::addColumn<QString>("kept");
-        QTest::newRow("number: digits") << u"Nr"_s << u"19"_s;
-        QTest::newRow("cycle: digits and roman letters") << u"Zyklus"_s << u"1xIv9M"_s;
-        QTest::newRow("title: anything") << u"Titel"_s << u"1a xIv-9,qM"_s;
-    }
-    void keys()
-    {
-        QFETCH(QString, field);
-        QFETCH(QString, kept);
-        OpenDialog open;
-        open.Apply({u"0:field="_s + field, u"0:type=1a xIv-9,qM"_s});
-        QCOMPARE(open.Find<QLineEdit>(u"txt_10"_s)->text(), kept);
-    }
-
-    // Enter walks on from a value to the joining word or to btn_ausf.
-    void enterMovesOn_data()
-    {
-        QTest::addColumn<QStringList>("steps");
-        QTest::addColumn<QString>("control");
-        QTest::addColumn<QString>("focus");
-        QTest::newRow("typed number") << QStringList{u"0:type=12"_s} << u"txt_10"_s << u"btn_ausf"_s;
-        QTest::newRow("blank number") << QStringList() << u"txt_10"_s << u"txt_10"_s;
-        QTest::newRow("list in row 1") << QStringList{u"0:type=1"_s, u"0:logic=UND"_s, u"1:field=Autor"_s}
-                                       << u"cmb_univ1"_s << u"cmb_logic1"_s;
-        QTest::newRow("date in row 2")
-            << QStringList{u"0:type=1"_s, u"0:logic=UND"_s, u"1:type=2"_s, u"1:logic=UND"_s,
-                           u"2:field=Datum"_s}
-            << u"dtp_datum2"_s << u"btn_ausf"_s;
-        const QStringList read = {u"0:field=Gelesen"_s};
-        QTest::newRow("joining word Keine") << read << u"cmb_logic0"_s << u"btn_ausf"_s;
-        QTest::newRow("joining word UND") << read + QStringList{u"0:logic=UND"_s} << u"cmb_logic0"_s
-                                          << u"cmb_logic0"_s;
-    }
-    void enterMovesOn()
-    {
-        QFETCH(QStringList, steps);
-        QFETCH(QString, control);
-        QFETCH(QString, focus);
-        OpenDialog open;
-        open.Apply(steps);
-        open.Find(control)->setFocus();
-        QTest::keyClick(open.Find(control), Qt::Key_Return);
-        QCOMPARE(open.Focus(), focus);
-        QVERIFY(open.dialog->isVisible());
-    }
-
     // A refused cycle value sends the focus back to its box, and the release
     // of the Enter that ran the command must not send it on again; the
     // corrected value then runs.
@@ -243,14 +120,6 @@ private Q_SLOTS:
         QTest::keyPress(open.Ausf(), Qt::Key_Return);
         QCOMPARE(open.dialog->result(), int(QDialog::Accepted));
         QCOMPARE(open.window.List().Filter.Rows() - 1, 2);
-    }
-
-    // The keyword search belongs to one series.
-    void archiveFrame()
-    {
-        OpenDialog open(u"Sternenfahrer"_s);
-        QVERIFY(!open.Find(u"cmb_aftype"_s)->isEnabled());
-        QCOMPARE(open.Find<QComboBox>(u"cmb_aftype"_s)->currentText(), u"Keine"_s);
     }
 
     // Nothing found, or a condition the database refuses: the message, and

@@ -1,19 +1,17 @@
 // Filter mode of the main window: started from the toolbar button or the
-// menu through frm_filter, ended by the same command, and the small filter
-// window behind status panel 6.
+// menu through frm_filter, ended by the same command, with the full list kept
+// as it was.
 
 #include "testmain.h"
 #include "testsupport.h"
 
 #include "filter/ui/filtermode.h"
 #include "mainwin/ui/mainwindow.h"
-#include "mainwin/ui/statusbar.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
 #include <QDialog>
-#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
@@ -87,12 +85,6 @@ struct FilterWindow {
         QCOMPARE(run.opened, 1);
         QVERIFY(!run.leftOpen);
     }
-    void ClickPanel(int panel)
-    {
-        auto* status = window.findChild<StatusBar*>();
-        QWidget* label = status->childAt(status->PanelGeometry(panel).center());
-        QTest::mouseClick(label, Qt::LeftButton);
-    }
 
     TempCollection collection;
     MainWindow window;
@@ -159,23 +151,6 @@ private Q_SLOTS:
         QCOMPARE(FilterStateOf(f.window)->FilterText, u"Autor = 'Ada Quell' "_s);
     }
 
-    // Closing frm_filter without a result gives the commands back.
-    void closeWithoutResult_data() { AddCommandColumn(); }
-    void closeWithoutResult()
-    {
-        QFETCH(QString, command);
-        FilterWindow f;
-        OnModal close(u"frm_filter"_s, [&](QDialog& dialog) {
-            CheckCommands(f, true);
-            dialog.findChild<QPushButton*>(u"btn_beend"_s)->click();
-        });
-        f.Command(command)->trigger();
-        QCOMPARE(close.opened, 1);
-        QVERIFY(!f.window.IsFilterMode());
-        CheckCommands(f, false);
-        QCOMPARE(f.window.StatusPanelText(6), u"-"_s);
-    }
-
     // Back in the full list: its sort, the entry chosen in the filter list,
     // and the column widths of the filter list.
     void endKeepsTheEntryAndTheSort_data()
@@ -220,35 +195,6 @@ private Q_SLOTS:
         QCOMPARE(list.Heftliste.TextMatrix(list.Heftliste.Row(), ColNr), current);
         QCOMPARE(list.Heftliste.ColWidth(ColAutor), 2222);
         QCOMPARE(Numbers(list.Filter), QStringList{QString()});
-    }
-
-    // Panel 6 shows the sentence of the filter in force, once, and nothing
-    // when there is none; Esc in the sentence closes the window.
-    void smallFilterWindow_data()
-    {
-        QTest::addColumn<bool>("filterOn");
-        QTest::newRow("filter on") << true;
-        QTest::newRow("no filter") << false;
-    }
-    void smallFilterWindow()
-    {
-        QFETCH(bool, filterOn);
-        FilterWindow f;
-        if (filterOn)
-            f.RunFilter();
-        QStringList seen;
-        OnModal look(u"frm_smfilter"_s, [&](QDialog& dialog) {
-            auto* box = dialog.findChild<QPlainTextEdit*>(u"txt_filter"_s);
-            seen << dialog.windowTitle() << box->toPlainText();
-            if (box->isReadOnly())
-                seen << u"read-only"_s;
-            QTest::keyClick(box, Qt::Key_Escape);
-        });
-        f.ClickPanel(6);
-        QCOMPARE(look.opened, filterOn ? 1 : 0);
-        QVERIFY(!look.leftOpen);
-        if (filterOn)
-            QCOMPARE(seen, (QStringList{u"FILTER Bedingung"_s, u"Autor = 'Ada Quell' "_s, u"read-only"_s}));
     }
 };
 

@@ -106,33 +106,6 @@ private Q_SLOTS:
         QCOMPARE(model.FindNr(expectedNr.last().toInt()), model.rowCount() - 1);
     }
 
-    void editRows()
-    {
-        EntryGridModel model;
-        QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
-        model.Reset(RowsOf(ColTitel, {u"5|A"_s, u"6|B"_s}));
-        model.AppendRow();
-        model.SetText(2, ColNr, u"8"_s);
-        model.RemoveRow(0);
-        QCOMPARE(model.rowCount(), 2);
-        QCOMPARE(model.FindNr(8), 1);
-        QCOMPARE(model.FindNr(5), -1);
-    }
-
-    void headerMarks()
-    {
-        EntryGridModel model;
-        model.SetHeaderMark(ColNr, true, SortPicture::Down);
-        QVERIFY(model.headerData(ColNr, Qt::Horizontal, Qt::FontRole).value<QFont>().bold());
-        QVERIFY(!model.headerData(ColNr, Qt::Horizontal, Qt::DecorationRole).value<QPixmap>().isNull());
-        QVERIFY(model.headerData(ColTitel, Qt::Horizontal, Qt::DecorationRole).isNull());
-        QCOMPARE(model.headerData(ColNr, Qt::Horizontal, EntryGridModel::PictureAlignmentRole).value<Qt::Alignment>()
-                     & Qt::AlignHorizontal_Mask,
-                 Qt::AlignLeft);
-        QCOMPARE(model.headerData(ColZyklus, Qt::Horizontal, EntryGridModel::PictureAlignmentRole).value<Qt::Alignment>()
-                     & Qt::AlignHorizontal_Mask,
-                 Qt::AlignRight);
-    }
 };
 
 HEFT_TEST(TestEntryGridModel)

@@ -19,11 +19,6 @@ namespace {
 
 const QString Manual = QStringLiteral(HEFTARIUM_DATA_SOURCES) + u"/help"_s;
 
-QStringList Pages()
-{
-    return QDir(Manual).entryList({u"*.html"_s}, QDir::Files, QDir::Name);
-}
-
 struct Link {
     QString href;
     int position; // in the document
@@ -72,8 +67,6 @@ private Q_SLOTS:
         QTest::addColumn<QStringList>("indexPages"); // index pages laid out below the root
         QTest::addColumn<QString>("found");          // relative to the root; empty: none
         QTest::newRow("beside the program") << QStringList{u"bin/help/index.html"_s} << u"bin/help"_s;
-        QTest::newRow("installed") << QStringList{u"share/Quintara/Heftarium/help/index.html"_s}
-                                   << u"share/Quintara/Heftarium/help"_s;
         QTest::newRow("the build tree comes first")
             << QStringList{u"bin/help/index.html"_s, u"share/Quintara/Heftarium/help/index.html"_s} << u"bin/help"_s;
         QTest::newRow("folder without its index page") << QStringList{u"bin/help/liste.html"_s} << QString();
@@ -125,53 +118,6 @@ private Q_SLOTS:
         QCOMPARE(ShownPage(browser), u"index.html"_s);
     }
 
-    void showHelpReusesTheOpenWindow()
-    {
-        auto* window = new HelpWindow(Manual);
-        window->ShowPage(u"index.html"_s);
-        window->show();
-        ShowHelp(nullptr, u"suchen.html"_s);
-        QCOMPARE(ShownPage(window->Browser()), u"suchen.html"_s);
-        int helpWindows = 0;
-        for (const QWidget* widget : QApplication::topLevelWidgets())
-            helpWindows += qobject_cast<const HelpWindow*>(widget) != nullptr ? 1 : 0;
-        QCOMPARE(helpWindows, 1);
-        window->close(); // deletes itself
-    }
-
-    void pages_data()
-    {
-        QTest::addColumn<QString>("page");
-        for (const QString& page : Pages())
-            QTest::newRow(qPrintable(page)) << page;
-    }
-    // Each page renders with its title, reaches every other page through
-    // its navigation bar, and has no link that leads nowhere. The picture of
-    // the index page in /tmp is for the eye.
-    void pages()
-    {
-        QFETCH(QString, page);
-        HelpWindow window(Manual);
-        window.resize(760, 640);
-        window.ShowPage(page);
-        window.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&window));
-        const QTextDocument& document = *window.Browser()->document();
-        QVERIFY(document.metaInformation(QTextDocument::DocumentTitle).startsWith(u"Heftarium – "_s));
-        QVERIFY(!document.toPlainText().trimmed().isEmpty());
-
-        QStringList targets;
-        for (const Link& link : Links(document))
-            targets << link.href;
-        for (const QString& other : Pages()) {
-            if (other != page)
-                QVERIFY2(targets.contains(other), qPrintable(other));
-        }
-        for (const QString& target : targets)
-            QVERIFY2(QFileInfo::exists(QDir(Manual).filePath(QUrl(target).path())), qPrintable(target));
-        if (page == u"index.html"_s)
-            window.grab().save(u"/tmp/help_index.png"_s);
-    }
 };
 
 HEFT_TEST(TestHelp)

@@ -10,6 +10,7 @@
 #include "splashwindow.h"
 #include "statusbar.h"
 
+#include "core/changeunit.h"
 #include "core/session.h"
 #include "core/sqlwriters.h"
 #include "core/textfuncs.h"
@@ -121,7 +122,9 @@ void MainWindow::DeleteClick()
          MessageIcon::Question, MessageButtons::OkCancel});
     if (answer != Answer::Ok)
         return;
-    if (DeleteEntryCascade(session, nr) == 0) {
+    ChangeUnit unit(session);
+    const int result = DeleteEntryCascade(session, nr);
+    if (!unit.Commit() && result == 0) {
         m_list.RemoveEntryRows(nr);
         GetNrRange(session, u";"_s, m_list.LowestNr, m_list.HighestNr);
     }
