@@ -24,8 +24,6 @@
 #include <QPainter>
 #include <QPainterPath>
 
-#include <cstdio>
-
 using namespace Qt::StringLiterals;
 using namespace heft;
 
@@ -296,16 +294,5 @@ int main(int argc, char** argv)
     // Drawing text needs a platform; none of it is shown.
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QGuiApplication app(argc, argv);
-    const QStringList args = app.arguments();
-    if (args.size() != 3) {
-        std::fprintf(stderr, "Aufruf: heftarium-build-archive DATENORDNER AUSGABEORDNER\n");
-        return 2;
-    }
-    try {
-        Build(args[1], args[2]);
-    } catch (const BuildError& error) {
-        std::fprintf(stderr, "heftarium-build-archive: %s\n", qPrintable(error.Text()));
-        return 1;
-    }
-    return 0;
+    return RunBuildTool(app.arguments(), "heftarium-build-archive", Build);
 }

@@ -17,7 +17,6 @@
 #include <QFile>
 #include <QHash>
 
-#include <cstdio>
 #include <vector>
 
 using namespace Qt::StringLiterals;
@@ -179,16 +178,5 @@ void Build(const QString& data, const QString& out)
 int main(int argc, char** argv)
 {
     QCoreApplication app(argc, argv);
-    const QStringList args = app.arguments();
-    if (args.size() != 3) {
-        std::fprintf(stderr, "Aufruf: heftarium-build-data DATENORDNER AUSGABEORDNER\n");
-        return 2;
-    }
-    try {
-        Build(args[1], args[2]);
-    } catch (const BuildError& error) {
-        std::fprintf(stderr, "heftarium-build-data: %s\n", qPrintable(error.Text()));
-        return 1;
-    }
-    return 0;
+    return RunBuildTool(app.arguments(), "heftarium-build-data", Build);
 }

@@ -1,8 +1,26 @@
 #include "datsources.h"
 
+#include <cstdio>
+
 using namespace Qt::StringLiterals;
 
 namespace heft {
+
+int RunBuildTool(const QStringList& arguments, const char* toolName,
+                 const std::function<void(const QString& sources, const QString& output)>& build)
+{
+    if (arguments.size() != 3) {
+        std::fprintf(stderr, "Aufruf: %s DATENORDNER AUSGABEORDNER\n", toolName);
+        return 2;
+    }
+    try {
+        build(arguments[1], arguments[2]);
+    } catch (const BuildError& error) {
+        std::fprintf(stderr, "%s: %s\n", toolName, qPrintable(error.Text()));
+        return 1;
+    }
+    return 0;
+}
 
 QString SourceSeries() { return u"Valdorin"_s; }
 

@@ -9,6 +9,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
 #include <vector>
 
 namespace heft {
@@ -21,6 +22,11 @@ public:
 private:
     QString m_text;
 };
+
+// The main of a build tool: checks for the two folders (sources, output),
+// runs build and turns a BuildError into a message and exit code 1.
+int RunBuildTool(const QStringList& arguments, const char* toolName,
+                 const std::function<void(const QString& sources, const QString& output)>& build);
 
 // The series of the shipped sample.
 QString SourceSeries();

@@ -28,8 +28,8 @@ QString Joined(const QString& folder, const QString& name) { return folder + u'/
 bool RefusedBeyondLimits(Session& session, int nr, const EditionLimits& limits, const QString& roman)
 {
     const QString& list = session.Config.ListKind;
-    if (!((list == HeftromaneList() && nr > limits.heftromane) ||
-          (list == SilberbaendeList() && nr > limits.silberbaende)))
+    if (!((list == HeftromaneList && nr > limits.heftromane) ||
+          (list == SilberbaendeList && nr > limits.silberbaende)))
         return false;
     session.prompter->Tell(u"Info zum Datenumfang der Archiv CD"_s,
                            u"Die Valdorin Archiv CD %1\r\nbeinhaltet nur die Heftromane\r\nbis zur Ausgabe %2 und "
@@ -42,61 +42,25 @@ bool RefusedBeyondLimits(Session& session, int nr, const EditionLimits& limits, 
 
 } // namespace
 
-const QString& ArchiveSeries()
-{
-    static const QString name = u"Valdorin"_s;
-    return name;
-}
-
-const QString& FirstArchiveLabel()
-{
-    static const QString label = u"VALDORIN_1"_s;
-    return label;
-}
-
-const QString& SecondArchiveLabel()
-{
-    static const QString label = u"VN_ARCHIV_2"_s;
-    return label;
-}
-
-const QString& HeftromaneList()
-{
-    static const QString name = u"Heftromane"_s;
-    return name;
-}
-
-const QString& TaschenbuecherList()
-{
-    static const QString name = u"Taschenbücher"_s;
-    return name;
-}
-
-const QString& SilberbaendeList()
-{
-    static const QString name = u"Silberbände"_s;
-    return name;
-}
-
 std::optional<ArchivePageLocation> ArchivePage(ArchiveEdition edition, const QString& listKind, int nr)
 {
     if (edition == ArchiveEdition::First) {
-        if (listKind == HeftromaneList()) {
+        if (listKind == HeftromaneList) {
             const QString hundreds = u"SEITEN/H"_s + QString::number(100 * HundredsOf(nr));
             return ArchivePageLocation{u"Archiv/"_s + hundreds, QString::number(nr) + u".htm"_s, u"HTML/"_s + hundreds};
         }
-        if (listKind == TaschenbuecherList())
+        if (listKind == TaschenbuecherList)
             return ArchivePageLocation{u"Archiv/SEITEN/BUECHER"_s, u"TBs.htm"_s, u"HTML/SEITEN/BUECHER"_s};
-        if (listKind == SilberbaendeList())
+        if (listKind == SilberbaendeList)
             return ArchivePageLocation{u"Archiv/SEITEN/BUECHER"_s, u"Buch"_s + QString::number(nr) + u".htm"_s,
                                        u"HTML/SEITEN/BUECHER"_s};
         return std::nullopt;
     }
-    if (listKind == HeftromaneList())
+    if (listKind == HeftromaneList)
         return ArchivePageLocation{u"Archiv/HEFTE"_s, u"HEFT"_s + Padded(nr, 4) + u".HTM"_s, u"HEFTE"_s};
-    if (listKind == TaschenbuecherList())
+    if (listKind == TaschenbuecherList)
         return ArchivePageLocation{u"Archiv/TABUS"_s, u"TABU"_s + Padded(nr, 3) + u".HTM"_s, u"TABUS"_s};
-    if (listKind == SilberbaendeList())
+    if (listKind == SilberbaendeList)
         return ArchivePageLocation{u"Archiv/SILBER"_s, u"SILBER"_s + Padded(nr, 2) + u".HTM"_s, u"SILBER"_s};
     return std::nullopt;
 }
@@ -104,11 +68,11 @@ std::optional<ArchivePageLocation> ArchivePage(ArchiveEdition edition, const QSt
 bool InSearchRange(ArchiveEdition edition, const QString& listKind, int nr)
 {
     const bool first = edition == ArchiveEdition::First;
-    if (listKind == HeftromaneList())
+    if (listKind == HeftromaneList)
         return nr < (first ? 1850 : 2094);
-    if (listKind == TaschenbuecherList())
+    if (listKind == TaschenbuecherList)
         return nr < 408;
-    if (listKind == SilberbaendeList())
+    if (listKind == SilberbaendeList)
         return nr < (first ? 57 : 77);
     return false;
 }
@@ -150,12 +114,12 @@ void ArchiveLinkClick(Session& session, int nr, const ArchiveLinkHooks& hooks)
             return page ? OpenArchiveDocument(config.ArchiveRoot, volumes, *page, *hooks.opener) : 0;
         };
         qint64 size = 0;
-        if (label == FirstArchiveLabel()) {
+        if (label == FirstArchiveLabel) {
             if (RefusedBeyondLimits(session, nr, FirstEditionLimits, u"I"_s))
                 return;
             hooks.status(u"Suche Valdorin Archiv CD I Infos ..."_s);
             size = open(ArchiveEdition::First);
-        } else if (label == SecondArchiveLabel()) {
+        } else if (label == SecondArchiveLabel) {
             if (RefusedBeyondLimits(session, nr, SecondEditionLimits, u"II"_s))
                 return;
             hooks.status(u"Suche Valdorin Archiv CD II Infos ..."_s);

@@ -19,12 +19,12 @@ class Session;
 
 // The series the archive belongs to, the labels of its editions and the
 // lists it knows.
-const QString& ArchiveSeries();
-const QString& FirstArchiveLabel();
-const QString& SecondArchiveLabel();
-const QString& HeftromaneList();
-const QString& TaschenbuecherList();
-const QString& SilberbaendeList();
+inline const QString ArchiveSeries = QStringLiteral(u"Valdorin");
+inline const QString FirstArchiveLabel = QStringLiteral(u"VALDORIN_1");
+inline const QString SecondArchiveLabel = QStringLiteral(u"VN_ARCHIV_2");
+inline const QString HeftromaneList = QStringLiteral(u"Heftromane");
+inline const QString TaschenbuecherList = QStringLiteral(u"Taschenbücher");
+inline const QString SilberbaendeList = QStringLiteral(u"Silberbände");
 
 enum class ArchiveEdition { First, Second };
 

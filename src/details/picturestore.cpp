@@ -35,7 +35,7 @@ QString StoreFolder(const Configuration& config, const QString& kind)
 // Where the archive keeps a cover, for the CD in the drive or a copy.
 QStringList ArchiveCoverPaths(const Configuration& config, const QString& cdRoot, const QString& label, int nr)
 {
-    if (config.SeriesName != ArchiveSeries())
+    if (config.SeriesName != ArchiveSeries)
         return {};
     const QString& list = config.ListKind;
     const QString copy = config.ArchiveRoot;
@@ -46,32 +46,40 @@ QStringList ArchiveCoverPaths(const Configuration& config, const QString& cdRoot
     const QString silber = u"PICS/SILBER/SILBER"_s + Padded(nr, 2) + u".JPG"_s;
     const auto inCopy = [&](const QString& path) { return ResolvePath(copy, u"Archiv/"_s + path); };
     const auto onCd = [&](const QString& path) { return ResolvePath(cdRoot, path); };
-    if (label == FirstArchiveLabel())
-        return list == HeftromaneList() ? QStringList{inCopy(byHundreds), onCd(u"HTML/"_s + byHundreds)}
+    if (label == FirstArchiveLabel)
+        return list == HeftromaneList ? QStringList{inCopy(byHundreds), onCd(u"HTML/"_s + byHundreds)}
                                         : QStringList{};
-    const QString byList = list == HeftromaneList()       ? tibis
-                           : list == TaschenbuecherList() ? tabus
-                           : list == SilberbaendeList()   ? silber
+    const QString byList = list == HeftromaneList       ? tibis
+                           : list == TaschenbuecherList ? tabus
+                           : list == SilberbaendeList   ? silber
                                                           : QString();
     if (byList.isEmpty())
         return {};
-    if (label == SecondArchiveLabel())
+    if (label == SecondArchiveLabel)
         return {inCopy(byList), onCd(byList)};
-    if (list == HeftromaneList())
+    if (list == HeftromaneList)
         return {inCopy(tibis), inCopy(byHundreds)};
     return {inCopy(byList)};
 }
 
-} // namespace
+// How the drop's question and the status bar name a kind.
+struct KindTexts {
+    QString description;
+    QString missing;
+};
 
-QString PictureDescription(const QString& kind)
+KindTexts TextsOf(const QString& kind)
 {
     if (kind == KindWord(CoverKind))
-        return u"ein Titelbild"_s;
+        return {u"ein Titelbild"_s, u"Fertig [kein Titelbild gefunden]."_s};
     if (kind == KindWord(CutawayKind))
-        return u"eine Rißzeichnung"_s;
-    return u"eine Innenillustration"_s;
+        return {u"eine Rißzeichnung"_s, u"Fertig [keine Rißzeichnung gefunden]."_s};
+    return {u"eine Innenillustration"_s, u"Fertig [keine Innenillustration gefunden]."_s};
 }
+
+} // namespace
+
+QString PictureDescription(const QString& kind) { return TextsOf(kind).description; }
 
 QString DroppedExtension(const QString& fileName) { return Right(fileName, 4).toLower(); }
 
@@ -180,14 +188,7 @@ PictureFound ChoosePicture(const PictureCandidates& candidates, const std::funct
     return {};
 }
 
-QString PictureMissingText(const QString& kind)
-{
-    if (kind == KindWord(CoverKind))
-        return u"Fertig [kein Titelbild gefunden]."_s;
-    if (kind == KindWord(CutawayKind))
-        return u"Fertig [keine Rißzeichnung gefunden]."_s;
-    return u"Fertig [keine Innenillustration gefunden]."_s;
-}
+QString PictureMissingText(const QString& kind) { return TextsOf(kind).missing; }
 
 QSize ShownPictureSize(const QSize& picture)
 {

@@ -84,7 +84,7 @@ int ArchivePageScanner::ScanArchivePage(const ArchivePageLocation& location, int
         return 0;
     // The CD's own label never reads "Archiv_CD_1", so only the copy of the
     // first edition gets its one page of all books cut to the book.
-    if (m_config.ListKind == TaschenbuecherList() && fromCopy && location.copyFolder == SharedBookFolder)
+    if (m_config.ListKind == TaschenbuecherList && fromCopy && location.copyFolder == SharedBookFolder)
         page = BookSection(page, nr);
 
     int hits = m_word1.FoundIn(page) ? 1 : 0;
@@ -147,10 +147,10 @@ int SearchArchive(Session& session, EntryList& list, const ArchiveQuery& query, 
     for (int r = 1; r <= n; ++r) {
         const int nr = static_cast<int>(Val(grid.TextMatrix(r, ColNr)));
         int result = 0;
-        if (label == FirstArchiveLabel()) {
+        if (label == FirstArchiveLabel) {
             if (InSearchRange(ArchiveEdition::First, listKind, nr))
                 result = scan(ArchiveEdition::First, nr);
-        } else if (label == SecondArchiveLabel()) {
+        } else if (label == SecondArchiveLabel) {
             if (InSearchRange(ArchiveEdition::Second, listKind, nr))
                 result = scan(ArchiveEdition::Second, nr);
         } else {

@@ -38,7 +38,7 @@ void InstallPictureCommands(MainWindow& window, DocumentOpener* opener, std::fun
     const auto status = [&window](const QString& text) { window.SetStatusPanel(5, text); };
     window.SetCommandHandler(u"mnu_tibi"_s, [&window, volumes, status] {
         if (window.List().ActiveGrid->CurrentRowHoldsEntry())
-            ShowPicture(window.CurrentSession(), SelectedNr(window), KindWord(CoverKind), volumes(), status, &window);
+            ShowPicture(window.CurrentSession(), SelectedNr(window), KindWord(CoverKind), volumes(), {status}, &window);
     });
     window.SetCommandHandler(u"mnu_archiv"_s, [&window, chosen, volumes, status] {
         if (window.List().ActiveGrid->CurrentRowHoldsEntry())

@@ -61,6 +61,7 @@ PicturePanel::PicturePanel(Session& session, int nr, Ui::DetailWindow& ui, QWidg
     connect(ui.btn_illu, &QPushButton::clicked, this, &PicturePanel::IlluClick);
     connect(ui.lst_illu, &QListWidget::itemActivated, this, &PicturePanel::ShowSelectedPage);
     ui.lst_illu->installEventFilter(this);
+    connect(ui.tab_detail, &QTabWidget::currentChanged, ui.lst_illu, &QWidget::hide);
 }
 
 void PicturePanel::AcceptDrops(QWidget* target, const QString& kind)
@@ -116,8 +117,8 @@ void PicturePanel::DropFile(const QString& kind, const QString& path)
 
 void PicturePanel::ShowKind(const QString& pictureKind, QPushButton* button)
 {
-    const bool found = ShowPicture(m_session, m_nr, pictureKind, m_volumes(), m_status, m_window);
-    button->setStyleSheet(found ? FoundColour : MissingColour);
+    const auto colour = [button](bool found) { button->setStyleSheet(found ? FoundColour : MissingColour); };
+    ShowPicture(m_session, m_nr, pictureKind, m_volumes(), {m_status, colour}, m_window);
 }
 
 void PicturePanel::IlluClick()

@@ -59,10 +59,10 @@ void PictureViewer::keyPressEvent(QKeyEvent* event)
     accept();
 }
 
-bool ShowPicture(Session& session, int nr, const QString& pictureKind, const QList<Volume>& volumes,
-                 const std::function<void(const QString&)>& status, QWidget* parent)
+void ShowPicture(Session& session, int nr, const QString& pictureKind, const QList<Volume>& volumes,
+                 const PictureReport& report, QWidget* parent)
 {
-    status(u"Suche Titelbild ..."_s);
+    report.status(u"Suche Titelbild ..."_s);
     const PictureKind kind = SplitPictureKind(pictureKind);
     QImage image;
     const auto load = [&image](const QString& path) {
@@ -72,15 +72,16 @@ bool ShowPicture(Session& session, int nr, const QString& pictureKind, const QLi
     };
     const PictureFound found = ChoosePicture(FindPictureCandidates(session.Config, volumes, nr, kind), load);
     if (found.lookup == PictureLookup::Missing) {
-        status(PictureMissingText(kind.kind));
-        return false;
+        report.outcome(false);
+        report.status(PictureMissingText(kind.kind));
+        return;
     }
     if (found.lookup == PictureLookup::Empty)
         image = QImage();
-    status(u"Fertig und Bereit."_s);
+    report.status(u"Fertig und Bereit."_s);
+    report.outcome(true);
     PictureViewer viewer(image, ViewerCaption(kind, nr), parent);
     viewer.exec();
-    return true;
 }
 
 } // namespace heft

@@ -31,10 +31,17 @@ private:
     QLabel* m_image;
 };
 
+// How a lookup is reported: the status bar text, and whether a picture was
+// found, told before the viewer opens so that the kind's button already
+// shows its colour while the picture is up.
+struct PictureReport {
+    std::function<void(const QString&)> status;
+    std::function<void(bool found)> outcome = [](bool) {};
+};
+
 // Looks the picture up and shows it modally when found. pictureKind is
-// "tibi", "rize" or "illu" with its page. Returns false when nothing was
-// found, for the colour of the kind's button.
-bool ShowPicture(Session& session, int nr, const QString& pictureKind, const QList<Volume>& volumes,
-                 const std::function<void(const QString&)>& status, QWidget* parent);
+// "tibi", "rize" or "illu" with its page.
+void ShowPicture(Session& session, int nr, const QString& pictureKind, const QList<Volume>& volumes,
+                 const PictureReport& report, QWidget* parent);
 
 } // namespace heft

@@ -77,7 +77,7 @@ std::array<QWidget*, 7> FilterDialog::Row::Closing() const
 
 void FilterDialog::SetupArchiveFrame()
 {
-    m_ui->frm_archiv->setEnabled(m_window.CurrentSession().Config.SeriesName == ArchiveSeries());
+    m_ui->frm_archiv->setEnabled(m_window.CurrentSession().Config.SeriesName == ArchiveSeries);
     m_ui->txt_archiv1->installEventFilter(this);
     m_ui->txt_archiv2->installEventFilter(this);
 }
