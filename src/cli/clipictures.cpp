@@ -29,19 +29,12 @@ public:
     QStringList opened;
 };
 
-// The collection's data folder: the one that holds DBs/.
-void SetDataFolder(Session& session)
-{
-    const QFileInfo db(session.CollectionDb->Path());
-    QDir folder = db.absoluteDir();
-    if (folder.dirName() == u"DBs")
-        folder.cdUp();
-    session.DataFolder = folder.absolutePath();
-}
-
+// The picture and archive folders follow the collection's data folder
+// (the one that holds DBs/) unless its parameters name others.
 bool ReadSettings(Session& session, QTextStream& err)
 {
-    SetDataFolder(session);
+    session.DataFolder = DataFolderOf(QFileInfo(session.CollectionDb->Path()));
+    ReadParameters(session);
     DbError error;
     if (ReadConfiguration(session, &error))
         return true;

@@ -148,7 +148,18 @@ QStringList IllustrationPages(const Configuration& config, int nr)
     return {};
 }
 
-int IllustrationListHeight(int rows) { return MinOf(1200, 225 + 195 * (rows - 1)); }
+namespace {
+// The list's height in twips is made of rows of 195 twips and a frame of 30.
+constexpr int IlluRowTwips = 195;
+constexpr int IlluFrameTwips = 30;
+} // namespace
+
+int IllustrationListHeight(int rows) { return MinOf(1200, IlluFrameTwips + IlluRowTwips * rows); }
+
+double IllustrationListRows(int rows)
+{
+    return double(IllustrationListHeight(rows) - IlluFrameTwips) / IlluRowTwips;
+}
 
 PictureKind SplitPictureKind(const QString& pictureKind)
 {

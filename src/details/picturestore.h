@@ -43,6 +43,9 @@ DropOutcome DropPicture(Session& session, int nr, const QString& kind, const QSt
 QStringList IllustrationPages(const Configuration& config, int nr);
 // The height of lst_illu in twips for that many rows.
 int IllustrationListHeight(int rows);
+// How many rows that height holds (six at the most, the last one in part),
+// for a list whose rows are not 195 twips high.
+double IllustrationListRows(int rows);
 
 // What the viewer is asked to show: "tibi", "rize", or "illu" and a page.
 struct PictureKind {

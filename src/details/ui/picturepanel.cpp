@@ -8,9 +8,9 @@
 #include "core/session.h"
 #include "details/picturestore.h"
 #include "mainwin/ui/mainwindow.h"
-#include "mainwin/twips.h"
 
 #include <QDropEvent>
+#include <QtMath>
 #include <QMimeData>
 
 using namespace Qt::StringLiterals;
@@ -137,7 +137,10 @@ void PicturePanel::IlluClick()
         m_status(PictureMissingText(KindWord(IllustrationKind)));
         return;
     }
-    list->setFixedHeight(TwipsToPixels(IllustrationListHeight(static_cast<int>(pages.size()))));
+    // As many rows as the twips height holds, at this list's own row
+    // height, so that no row is cut off by taller fonts.
+    const double rowsShown = IllustrationListRows(static_cast<int>(pages.size()));
+    list->setFixedHeight(2 * list->frameWidth() + qCeil(rowsShown * list->sizeHintForRow(0)));
     list->setCurrentRow(0);
     if (pages.size() == 1) {
         ShowSelectedPage();
