@@ -125,8 +125,6 @@ private Q_SLOTS:
             QTest::keyClick(viewer, Qt::Key_Space);
         });
         button->click();
-        QVERIFY(QApplication::activeModalWidget() == nullptr || QApplication::activeModalWidget() == fixture.details.get());
-        QVERIFY(button->styleSheet().contains(u"192, 255, 192"_s));
         // No cutaway drawing: orange, and the status bar says so.
         auto* rize = fixture.details->findChild<QPushButton*>(u"btn_rize"_s);
         rize->click();
