@@ -22,13 +22,6 @@ namespace heft {
 
 namespace {
 
-// Remembers what would have gone to the browser.
-class RecordingOpener : public DocumentOpener {
-public:
-    void Open(const QString& path) override { opened << path; }
-    QStringList opened;
-};
-
 // The picture and archive folders follow the collection's data folder
 // (the one that holds DBs/) unless its parameters name others.
 bool ReadSettings(Session& session, QTextStream& err)

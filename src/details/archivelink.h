@@ -9,6 +9,7 @@
 
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 #include <functional>
 #include <optional>
@@ -53,6 +54,13 @@ class DocumentOpener {
 public:
     virtual ~DocumentOpener() = default;
     virtual void Open(const QString& path) = 0;
+};
+
+// Remembers what would have gone to the browser: the cli prints it.
+class RecordingOpener : public DocumentOpener {
+public:
+    void Open(const QString& path) override { opened << path; }
+    QStringList opened;
 };
 
 // Opens the page and gives its size, or -1 when there is none to open.

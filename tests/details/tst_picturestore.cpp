@@ -16,24 +16,6 @@ using namespace Qt::StringLiterals;
 using namespace heft;
 using namespace heft::test;
 
-namespace {
-
-void Write(const QString& path, const QByteArray& bytes = "x")
-{
-    QDir().mkpath(QFileInfo(path).absolutePath());
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
-}
-
-class RecordingOpener : public DocumentOpener {
-public:
-    void Open(const QString& path) override { opened << path; }
-    QStringList opened;
-};
-
-} // namespace
-
 class TestPictureStore : public QObject {
     Q_OBJECT
 
@@ -76,9 +58,9 @@ private Q_SLOTS:
         collection.session.Config.PictureRoot = collection.dir.path();
         collection.prompter.answers = answers;
         // A cover of entry 3 is there already, in a folder of other case.
-        Write(collection.dir.filePath(u"TIBIS/valdorin (HEFTROMANE)/3TIBI.JPG"_s), "old");
+        WriteFile(collection.dir.filePath(u"TIBIS/valdorin (HEFTROMANE)/3TIBI.JPG"_s), "old");
         const QString from = collection.dir.filePath(source);
-        Write(from, "new");
+        WriteFile(from, "new");
         const int nr = answers.isEmpty() ? 7 : 3;
         const DropOutcome outcome = DropPicture(collection.session, nr, kind, from, [&] { return PageFromAnswer(page); });
         QCOMPARE(collection.prompter.asked.size(), messages);
@@ -106,7 +88,7 @@ private Q_SLOTS:
         const QString folder = root.filePath(u"illus/Valdorin (Heftromane)/"_s);
         for (const QString& name : {u"5illu002.bmp"_s, u"5illu009.jpg"_s, u"5illu010.bmp"_s, u"5illu011.bmp"_s,
                                     u"15illu001.jpg"_s, u"6illu001.gif"_s, u"6illu004.GIF"_s})
-            Write(folder + name);
+            WriteFile(folder + name);
         QCOMPARE(IllustrationPages(config, 5), QStringList{u"009"_s});
         QCOMPARE(IllustrationPages(config, 6), (QStringList{u"001"_s, u"004"_s}));
         QVERIFY(IllustrationPages(config, 7).isEmpty());
@@ -176,7 +158,7 @@ private Q_SLOTS:
         TempCollection collection(u"Valdorin"_s, list);
         collection.session.Config.ArchiveRoot = collection.dir.path();
         for (const QString& file : files)
-            Write(collection.dir.filePath(file));
+            WriteFile(collection.dir.filePath(file));
         // Retry once, then give up.
         collection.prompter.answers = {Answer::Retry, Answer::Cancel};
         RecordingOpener opener;

@@ -17,14 +17,6 @@ using namespace heft::test;
 
 namespace {
 
-void WritePage(const QString& path, const QByteArray& text)
-{
-    QDir().mkpath(QFileInfo(path).absolutePath());
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(text);
-}
-
 // Sections of the one page of all books on the first CD.
 QByteArray Book(int nr, const QByteArray& text)
 {
@@ -68,8 +60,8 @@ private Q_SLOTS:
         QFETCH(int, join);
         QFETCH(int, result);
         QTemporaryDir root;
-        WritePage(root.filePath(u"Archiv/HEFTE/HEFT0005.HTM"_s), "<P>Admiral Veyl auf Gorrodor, Kr\xE4he</P>");
-        WritePage(root.filePath(u"Archiv/SEITEN/BUECHER/TBs.htm"_s),
+        WriteFile(root.filePath(u"Archiv/HEFTE/HEFT0005.HTM"_s), "<P>Admiral Veyl auf Gorrodor, Kr\xE4he</P>");
+        WriteFile(root.filePath(u"Archiv/SEITEN/BUECHER/TBs.htm"_s),
                   Book(1, "Veyl im Nebel ") + Book(2, "ohne ihn ") + Book(3, "wieder Veyl"));
         Configuration config;
         config.SeriesName = u"Valdorin"_s;
@@ -120,7 +112,7 @@ private Q_SLOTS:
             const int nr = i + 1;
             rows.push_back({QString::number(nr), u"A"_s, u"T"_s, u"-"_s, u"- - -"_s, {}, {}});
             if (pages[i] != u'x')
-                WritePage(collection.dir.filePath(u"Archiv/HEFTE/HEFT%1.HTM"_s.arg(nr, 4, 10, QChar(u'0'))),
+                WriteFile(collection.dir.filePath(u"Archiv/HEFTE/HEFT%1.HTM"_s.arg(nr, 4, 10, QChar(u'0'))),
                           pages[i] == u'h' ? "Veyl und Gorrodor" : "Veyl allein");
         }
         EntryList list;

@@ -41,12 +41,9 @@ private Q_SLOTS:
         TempCollection collection;
         collection.session.Config.ArchiveRoot = collection.dir.path();
         collection.Add({{1, u"A"_s, u"Eins"_s}, {2, u"B"_s, u"Zwei"_s}, {3, u"C"_s, u"Drei"_s}, {4, u"D"_s, u"Vier"_s}});
-        QDir().mkpath(collection.dir.filePath(u"archiv/hefte"_s));
-        for (int nr = 1; nr <= 4; ++nr) {
-            QFile page(collection.dir.filePath(u"archiv/hefte/heft000%1.htm"_s.arg(nr)));
-            QVERIFY(page.open(QIODevice::WriteOnly));
-            page.write(nr % 2 == 0 ? "Admiral Veyl" : "Admiral VEYL");
-        }
+        for (int nr = 1; nr <= 4; ++nr)
+            WriteFile(collection.dir.filePath(u"archiv/hefte/heft000%1.htm"_s.arg(nr)),
+                      nr % 2 == 0 ? "Admiral Veyl" : "Admiral VEYL");
         MainWindow window;
         window.LoadList(collection.session);
         FilterState state;
