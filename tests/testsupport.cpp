@@ -3,6 +3,7 @@
 #include "core/schema.h"
 #include "core/textfuncs.h"
 
+#include <QDir>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -46,6 +47,14 @@ QVariant TempCollection::Value(const QString& sql)
     if (error)
         qFatal("query failed: %s\n%s", qPrintable(error.description), qPrintable(sql));
     return value;
+}
+
+void WriteFile(const QString& path, const QByteArray& bytes)
+{
+    QDir().mkpath(QFileInfo(path).absolutePath());
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
 }
 
 } // namespace heft::test

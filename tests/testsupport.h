@@ -42,4 +42,7 @@ public:
     Session session;
 };
 
+// Writes a file of a test's folder tree, creating its folders.
+void WriteFile(const QString& path, const QByteArray& bytes = "x");
+
 } // namespace heft::test
