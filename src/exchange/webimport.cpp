@@ -31,8 +31,8 @@ constexpr qsizetype PlaceholderSize = 2049;
 // Page numbers of a picture file have three digits.
 constexpr int MaxFallbackPictures = 999;
 
-const QString Cover = QStringView(CoverKind).toString();
-const QString Illustration = QStringView(IllustrationKind).toString();
+const QString Cover = KindWord(CoverKind);
+const QString Illustration = KindWord(IllustrationKind);
 
 bool IsAsciiAlnum(const QString& text)
 {
