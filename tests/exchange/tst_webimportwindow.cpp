@@ -1,5 +1,4 @@
-// frm_webimport and btn_webupdate of frm_import, driven for real: the range
-// box rules, and a web import from the fixture wiki.
+// frm_webimport and btn_webupdate of frm_import, driven for real: range box rules, a web import.
 
 #include "importfixture.h"
 #include "support/wikifixtureserver.h"

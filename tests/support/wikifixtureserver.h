@@ -1,8 +1,6 @@
 #pragma once
-// An HTTP server on 127.0.0.1 for the web import: GET gets what was set for
-// its path (404 otherwise), one answer per connection. ServeSampleSite()
-// sets up the fixture wiki of tests/fixtures/web: issues 2401 to 2403, the
-// cycle list, picture pages and pictures, the publisher's series for 2402.
+// An HTTP server on 127.0.0.1 for the web import: GET gets what was set for its path (404
+// otherwise), one answer per connection. ServeSampleSite(): tests/fixtures/web, issues 2401-2403.
 
 #include <QHash>
 #include <QStringList>
