@@ -90,12 +90,18 @@ DetailWindow::DetailWindow(Session& session, EntryList& list, bool editMode, QWi
     m_ui->layLinks->addWidget(m_links);
     const EntryGrid& grid = *list.ActiveGrid;
     m_nr = static_cast<int>(Val(grid.TextMatrix(grid.Row(), ColNr)));
-    new PicturePanel(session, m_nr, *m_ui, this);
+    m_pictures = new PicturePanel(session, m_nr, *m_ui, this);
     SetupControls();
     Load();
 }
 
-DetailWindow::~DetailWindow() = default;
+// The picture panel filters the boxes' events and finds them through m_ui,
+// which is gone when the boxes are torn down and still send events: the
+// panel goes first.
+DetailWindow::~DetailWindow()
+{
+    delete m_pictures;
+}
 
 void DetailWindow::SetupControls()
 {

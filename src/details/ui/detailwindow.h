@@ -21,6 +21,7 @@ namespace heft {
 
 class EntryList;
 class LinksPanel;
+class PicturePanel;
 class Session;
 class StatusPanel;
 struct DetailValues;
@@ -70,6 +71,7 @@ private:
     Session& m_session;
     StatusPanel* m_status = nullptr;
     LinksPanel* m_links = nullptr;
+    PicturePanel* m_pictures = nullptr;
     const bool m_editMode;
     int m_nr = 0;
     bool m_dirty = false;
