@@ -1,10 +1,9 @@
 // The fill command: a column filled over the result of a filter, the count
 // it prints, and what it refuses.
 
+#include "clirun.h"
 #include "testmain.h"
 #include "testsupport.h"
-
-#include "cli/clicommands.h"
 
 #include <QTest>
 
@@ -54,18 +53,12 @@ private Q_SLOTS:
         c.Add({{1, u"Ava Lind"_s, u"Morgensonne"_s, 1, u"I"_s},
                {2, u"Bo Kern"_s, u"Nachtflug"_s, 2, u"II"_s},
                {3, u"Ava Lind"_s, u"Sonnenwind"_s, 1, u"III"_s}});
-        c.session.CollectionDb.reset();
-
-        QString printed, errors;
-        QTextStream outStream(&printed), errStream(&errors);
-        QCOMPARE(heft::RunCli(QStringList{u"--db"_s, c.Path(), u"fill"_s} + arguments, outStream, errStream), code);
-        outStream.flush();
-        errStream.flush();
-        QCOMPARE(printed, out);
-        QCOMPARE(errors.isEmpty(), code == 0);
-
-        heft::DbError error;
-        c.session.CollectionDb = heft::Database::Open(c.Path(), &error);
+        c.Close();
+        const heft::test::CliRun run = heft::test::RunCliWith(QStringList{u"--db"_s, c.Path(), u"fill"_s} + arguments);
+        QCOMPARE(run.code, code);
+        QCOMPARE(run.out, out);
+        QCOMPARE(run.err.isEmpty(), code == 0);
+        c.Reopen();
         QCOMPARE(c.Value(check).toString(), result);
         if (code == 0 && !out.startsWith(u"Zu den"_s))
             QVERIFY(c.Value(u"SELECT COUNT(*) FROM Status WHERE ENum=1;"_s).toInt() > 0);

@@ -1,10 +1,9 @@
 // The filter command: criteria in the words of the filter window, the
 // printed WHERE text, sentence and numbers, and the exit codes.
 
+#include "clirun.h"
 #include "testmain.h"
 #include "testsupport.h"
-
-#include "cli/clicommands.h"
 
 #include <QTest>
 
@@ -48,26 +47,18 @@ private Q_SLOTS:
         QFETCH(QStringList, criteria);
         QFETCH(int, code);
         QFETCH(QString, out);
-        QString db;
-        {
-            heft::test::TempCollection c;
-            c.dir.setAutoRemove(false);
-            db = c.Path();
-            c.Add({{1, u"Ava Lind"_s, u"Morgensonne"_s, 1, u"I"_s, true},
+        heft::test::TempCollection c;
+        c.Add({{1, u"Ava Lind"_s, u"Morgensonne"_s, 1, u"I"_s, true},
                    {2, u"Bo Kern"_s, u"Nachtflug"_s, 2, u"II"_s, false},
                    {3, u"Cy Ott"_s, u"Sonnenwind"_s, 1, u"- - -"_s, true}});
-            c.Exec(u"INSERT INTO Details (Nr, Ersterscheinung) VALUES (1, '12.03.1975'), (2, '02.02.1990');"_s);
-            c.Exec(u"INSERT INTO Status (Nr, ENum, StatusWert) VALUES (1, 3, 'gut'), (2, 3, ''), "
-                   "(3, 6, '0000150'), (1, 6, '0000007');"_s);
-        }
-        QString printed, errors;
-        QTextStream outStream(&printed), errStream(&errors);
-        QCOMPARE(heft::RunCli(QStringList{u"--db"_s, db, u"filter"_s} + criteria, outStream, errStream), code);
-        outStream.flush();
-        errStream.flush();
-        QCOMPARE(printed, out);
-        QCOMPARE(errors.isEmpty(), code == 0);
-        QDir(QFileInfo(db).path()).removeRecursively();
+        c.Exec(u"INSERT INTO Details (Nr, Ersterscheinung) VALUES (1, '12.03.1975'), (2, '02.02.1990');"_s);
+        c.Exec(u"INSERT INTO Status (Nr, ENum, StatusWert) VALUES (1, 3, 'gut'), (2, 3, ''), "
+               "(3, 6, '0000150'), (1, 6, '0000007');"_s);
+        c.Close();
+        const heft::test::CliRun run = heft::test::RunCliWith(QStringList{u"--db"_s, c.Path(), u"filter"_s} + criteria);
+        QCOMPARE(run.code, code);
+        QCOMPARE(run.out, out);
+        QCOMPARE(run.err.isEmpty(), code == 0);
     }
 };
 

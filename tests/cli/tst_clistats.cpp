@@ -5,7 +5,7 @@
 #include "testmain.h"
 #include "testsupport.h"
 
-#include "cli/clicommands.h"
+#include "clirun.h"
 
 #include <QTest>
 
@@ -52,15 +52,9 @@ private Q_SLOTS:
         QFETCH(QString, err);
         heft::test::TempCollection c;
         c.Add({{1, u"Kurt Brandis"_s, u"A"_s, 1, u"I"_s}, {2, u"Hanno Velden"_s, u"B"_s, 0, u"I"_s}});
-        const QString db = c.Path();
-        c.session.CollectionDb.reset();
-        QString printed, errors;
-        QTextStream outStream(&printed), errStream(&errors);
-        QCOMPARE(heft::RunCli(QStringList{u"--db"_s, db, u"stats"_s} + words, outStream, errStream), code);
-        outStream.flush();
-        errStream.flush();
-        QCOMPARE(printed, out);
-        QCOMPARE(errors, err);
+        c.Close();
+        QCOMPARE(heft::test::RunCliWith(QStringList{u"--db"_s, c.Path(), u"stats"_s} + words),
+                 (heft::test::CliRun{code, out, err}));
     }
 };
 

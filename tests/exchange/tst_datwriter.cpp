@@ -16,20 +16,6 @@ class TestDatWriter : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void listLine()
-    {
-        ListRecord r;
-        r.Nr = u" 12 "_s;
-        r.Autor = u"Kurt Brandis  "_s;
-        r.Titel = u"  Die Festung am Nebelmeer"_s;
-        r.Zyklus = u"IV"_s;
-        r.Gelesen = true;
-        QCOMPARE(ListLine(r), u"\"12\";\"Kurt Brandis\";\"Die Festung am Nebelmeer\";\"-\";\"IV\";\"Ja\";\"\";"_s);
-        r.Auflage = u" 2"_s;
-        r.Gelesen = false;
-        QVERIFY(ListLine(r).contains(u"\" 2\";\"IV\";\"Nein\";"_s));
-    }
-
     void dates_data()
     {
         QTest::addColumn<QString>("stored");

@@ -59,14 +59,6 @@ struct ExportWindow {
     Asked asked;
 };
 
-template <typename T> T* Child(QWidget& parent, const QString& name)
-{
-    auto* child = parent.findChild<T*>(name);
-    if (!child)
-        qFatal("no %s", qPrintable(name));
-    return child;
-}
-
 void Check(QWidget& dialog, const QString& flags)
 {
     const QList<std::pair<QChar, QString>> boxes = {{u'c', u"chk_csv"_s},     {u't', u"chk_text"_s},

@@ -2,8 +2,8 @@
 // and the collection change, the sorts survive, stamps are written, the
 // cycle is refused once, and Esc stops a fill at the next row.
 
+#include "mainwin/listfixture.h"
 #include "testmain.h"
-#include "testsupport.h"
 
 #include "filter/columnfill.h"
 #include "filter/ui/columnfilldialog.h"
@@ -26,14 +26,6 @@ using namespace heft::test;
 namespace {
 
 const QString Finished = u"Fertig und Bereit [Filter ist AKTIV]."_s;
-
-QStringList Numbers(const EntryGrid& grid)
-{
-    QStringList numbers;
-    for (int row = 1; row < grid.Rows(); ++row)
-        numbers << grid.TextMatrix(row, ColNr);
-    return numbers;
-}
 
 // The main window over `count` entries by two authors, in filter mode on
 // the odd numbers, which Ada Quell wrote. Every entry starts with values
@@ -75,14 +67,6 @@ struct FillWindow {
     TempCollection collection;
     MainWindow window;
 };
-
-template <typename T> T* Child(QWidget& dialog, const QString& name)
-{
-    auto* child = dialog.findChild<T*>(name);
-    if (!child)
-        qFatal("no %s", qPrintable(name));
-    return child;
-}
 
 // Chooses the target and puts the value into whichever input it shows;
 // into txt_1 it is typed, through the key filter.
@@ -136,7 +120,7 @@ private Q_SLOTS:
         list.SortByColumn(ColAutor);
         f.EnterFilter();
         list.SortByColumn(ColTitel);
-        const QStringList filterOrder = Numbers(list.Filter);
+        const QStringList filterOrder = NrColumn(list.Filter);
         QCOMPARE(filterOrder, (QStringList{u"1"_s, u"5"_s, u"7"_s, u"3"_s}));
 
         ColumnFillDialog dialog(f.window);
@@ -146,8 +130,8 @@ private Q_SLOTS:
 
         QVERIFY(dialog.isVisible());
         QCOMPARE(f.window.StatusPanelText(5), Finished);
-        QCOMPARE(Numbers(list.Filter), filterOrder);
-        QCOMPARE(Numbers(list.Heftliste),
+        QCOMPARE(NrColumn(list.Filter), filterOrder);
+        QCOMPARE(NrColumn(list.Heftliste),
                  (QStringList{u"1"_s, u"2"_s, u"3"_s, u"4"_s, u"5"_s, u"6"_s, u"7"_s, u"8"_s}));
         QVERIFY(list.ResortOnReturn);
         const int col = FillTargetAt(Child<QComboBox>(dialog, u"cmb_choose"_s)->currentIndex()).gridColumn;
