@@ -78,14 +78,6 @@ private Q_SLOTS:
         QCOMPARE(Mod(a, b), remainder);
     }
 
-    void smallHelpers()
-    {
-        QCOMPARE(QuoteSql(u"D'Arcy's"_s), u"D''Arcy''s"_s);
-        QCOMPARE(StripLineBreaks(u"a\r\nb\nc\rd"_s), u"a  b c d"_s);
-        QCOMPARE(HundredsOf(2399), 23);
-        QCOMPARE(HundredsOf(99), 0);
-        QCOMPARE(HundredsOf(-150), 0);
-    }
 };
 
 HEFT_TEST(TestTextFuncs)

@@ -108,7 +108,6 @@ private Q_SLOTS:
             const Message& message = w.collection.prompter.asked.first();
             QCOMPARE(message.title, u"Fehlendes Export-Format"_s);
             QCOMPARE(message.text, u"Bitte Export-Format auswählen.\r\n\r\n(CSV | TEXT | HTML)"_s);
-            QCOMPARE(message.icon, MessageIcon::Critical);
             QVERIFY(QDir(w.Path(QString())).isEmpty());
             return;
         }
