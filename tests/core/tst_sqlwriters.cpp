@@ -141,6 +141,16 @@ private Q_SLOTS:
                  u"Bemerkung'"_s);
     }
 
+    void errorsAreLoggedWithTheStatement()
+    {
+        TempCollection c;
+        c.session.CurrentSql = u"UPDATE HEFTLIST SET WHERE Nr=1;"_s;
+        QCOMPARE(ExecuteSql(c.session), 3144);
+        QVERIFY(LogText(c).contains(u"UPDATE HEFTLIST SET WHERE Nr=1;\r\n[Fehler 3144]\r\nSyntax error in UPDATE "
+                                    "statement.\r\nUPDATE HEFTLIST SET WHERE Nr=1;\r\n"_s));
+        QVERIFY(c.prompter.asked.isEmpty());
+    }
+
     void cascadeAndMove()
     {
         TempCollection c;

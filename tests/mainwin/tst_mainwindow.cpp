@@ -3,6 +3,7 @@
 
 #include "mainwin/ui/mainwindow.h"
 
+#include <QSignalSpy>
 #include <QTableView>
 #include <QTest>
 
@@ -33,6 +34,7 @@ private Q_SLOTS:
     {
         TempCollection collection(u"Valdorin"_s, u"Taschenbücher"_s);
         collection.Add(Entries(12));
+        collection.Exec(u"UPDATE HEFTLIST SET Zyklus=NULL WHERE Nr=12;"_s);
         MainWindow window;
         window.LoadList(collection.session);
 
@@ -43,12 +45,48 @@ private Q_SLOTS:
         QCOMPARE(heftliste->model()->rowCount(), 12);
         QVERIFY(!heftliste->isHidden() && filter->isHidden());
         QCOMPARE(window.StatusPanelText(3), u"1/12"_s);
+        QCOMPARE(window.List().Heftliste.TextMatrix(12, ColZyklus), u"? ? ?"_s); // no cycle stored
         QCOMPARE(window.StatusPanelText(5), u"Fertig und Bereit."_s);
         QCOMPARE(window.StatusPanelText(6), u"-"_s);
 
         // Other windows remove entries through the session.
         collection.session.RemoveEntryRows(5);
         QCOMPARE(heftliste->model()->rowCount(), 11);
+    }
+
+    void removeEntryRows()
+    {
+        TempCollection collection;
+        collection.Add(Entries(5));
+        EntryList list;
+        LoadEntryList(collection, list, list.Heftliste);
+        collection.session.SharedRecordset =
+            collection.session.CollectionDb->Select(u"SELECT * FROM HEFTLIST WHERE Nr IN (2, 4) ORDER BY Nr;"_s);
+        list.ActiveGrid = &list.Filter;
+        list.SetupGridColumns();
+        list.FillGrid(collection.session);
+        QSignalSpy disabled(&list, &EntryList::EntryCommandsDisabled);
+
+        QCOMPARE(list.RemoveEntryRows(3), 3); // not in the filter list: nothing happens
+        QCOMPARE(NrColumn(list.Heftliste).size(), 5);
+        QCOMPARE(list.RemoveEntryRows(4), 0);
+        QCOMPARE(NrColumn(list.Filter), QStringList{u"2"_s});
+        QCOMPARE(NrColumn(list.Heftliste), (QStringList{u"1"_s, u"2"_s, u"3"_s, u"5"_s}));
+        QCOMPARE(disabled.size(), 0);
+
+        // The filter list's last entry leaves one empty row behind, and the
+        // entry commands go off.
+        QCOMPARE(list.RemoveEntryRows(2), 0);
+        QCOMPARE(list.Filter.Rows(), 2);
+        QCOMPARE(list.Filter.TextMatrix(1, ColNr), QString());
+        QVERIFY(!list.Filter.CurrentRowHoldsEntry());
+        QCOMPARE(disabled.size(), 1);
+        QCOMPARE(list.ActiveGrid, &list.Filter);
+        QCOMPARE(NrColumn(list.Heftliste), (QStringList{u"1"_s, u"3"_s, u"5"_s}));
+
+        // A new entry saved in filter mode takes the empty row.
+        list.AddGridRow(7);
+        QCOMPARE(NrColumn(list.Filter), QStringList{u"7"_s});
     }
 
 };
