@@ -81,15 +81,18 @@ private Q_SLOTS:
 
     void lostChange_data()
     {
-        QTest::addColumn<bool>("folderGone");
+        QTest::addColumn<QString>("cause");
         QTest::addColumn<int>("error");
-        QTest::newRow("Platte voll") << false << int(JetDiskFull);
-        QTest::newRow("Ordner weg") << true << int(JetPathGone);
+        QTest::newRow("Platte voll") << u"PRAGMA max_page_count=%1;"_s << int(JetDiskFull);
+        // A medium that only reads (root writes through file permissions).
+        QTest::newRow("nur lesbar") << u"PRAGMA query_only=1;"_s << int(JetReadOnly);
+        QTest::newRow("Ordner weg") << QString() << int(JetPathGone);
     }
     void lostChange()
     {
-        QFETCH(bool, folderGone);
+        QFETCH(QString, cause);
         QFETCH(int, error);
+        const bool folderGone = cause.isEmpty();
         test::TempCollection c;
         QTemporaryDir logDir; // the log stays when the collection's folder goes
         c.session.log = Log(logDir.filePath(u"Heftarium.log"_s));
@@ -100,7 +103,7 @@ private Q_SLOTS:
         if (folderGone)
             QVERIFY(QDir().rename(c.dir.path(), moved));
         else
-            c.Exec(u"PRAGMA max_page_count=%1;"_s.arg(c.Value(u"PRAGMA page_count;"_s).toInt()));
+            c.Exec(QString(cause).replace(u"%1"_s, c.Value(u"PRAGMA page_count;"_s).toString()));
         RenumberInUnit(c.session, 2, 3);
         if (folderGone)
             QVERIFY(QDir().rename(moved, c.dir.path()));
@@ -112,6 +115,7 @@ private Q_SLOTS:
         QCOMPARE(c.Value(u"SELECT COUNT(*) FROM Details WHERE Nr=2;"_s).toInt(), 1);
         QCOMPARE(c.Value(u"SELECT COUNT(*) FROM Status WHERE Nr=3;"_s).toInt(), 0);
         c.Exec(u"PRAGMA max_page_count=1000000;"_s);
+        c.Exec(u"PRAGMA query_only=0;"_s);
         RenumberInUnit(c.session, 2, 3);
         QCOMPARE(c.Value(u"SELECT COUNT(*) FROM Details WHERE Nr=3;"_s).toInt(), 1);
         QCOMPARE(c.prompter.asked.size(), 1);

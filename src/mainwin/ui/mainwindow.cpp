@@ -71,11 +71,13 @@ EntryGridView* MainWindow::AddGridView(EntryGrid& grid, const QString& name)
     centralWidget()->layout()->addWidget(view);
     connect(view, &EntryGridView::EditRequested, this, &MainWindow::EditRequested);
     connect(view, &EntryGridView::PopupRequested, this, &MainWindow::PopupRequested);
-    connect(view, &EntryGridView::FocusChanged, this, [this](bool focused) {
+    // Tied to the timer, not to the window: a view that loses its focus while
+    // the window is being torn down must not reach into the half-gone window.
+    connect(view, &EntryGridView::FocusChanged, m_selectionTimer, [timer = m_selectionTimer](bool focused) {
         if (focused)
-            m_selectionTimer->start();
+            timer->start();
         else
-            m_selectionTimer->stop();
+            timer->stop();
     });
     return view;
 }
