@@ -4,6 +4,7 @@
 #include "core/textfuncs.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -77,6 +78,14 @@ void TempCollection::Reopen()
     session.CollectionDb = Database::Open(Path(), &error);
     if (!session.CollectionDb)
         qFatal("test collection not reopened: %s", qPrintable(error.description));
+}
+
+void WriteFile(const QString& path, const QByteArray& bytes)
+{
+    QDir().mkpath(QFileInfo(path).absolutePath());
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
 }
 
 } // namespace heft::test

@@ -76,4 +76,7 @@ template <typename T> T* Child(const QWidget& parent, const QString& name)
     return child;
 }
 
+// Writes a file of a test's folder tree, creating its folders.
+void WriteFile(const QString& path, const QByteArray& bytes = "x");
+
 } // namespace heft::test

@@ -10,15 +10,13 @@
 #include "core/database.h"
 #include "core/schema.h"
 #include "core/textfuncs.h"
-#include "exchange/datfile.h"
-#include "exchange/datreader.h"
+#include "datsources.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QHash>
 
-#include <cstdio>
 #include <vector>
 
 using namespace Qt::StringLiterals;
@@ -26,58 +24,9 @@ using namespace heft;
 
 namespace {
 
-const QString Series = u"Valdorin"_s;
+const QString Series = SourceSeries();
 const QString Heftromane = u"Heftromane"_s;
 const QString Taschenbuecher = u"Taschenbücher"_s;
-
-class BuildError {
-public:
-    explicit BuildError(QString text) : m_text(std::move(text)) {}
-    const QString& Text() const { return m_text; }
-
-private:
-    QString m_text;
-};
-
-// The record lines of an exchange file whose header must be the expected one.
-QStringList ReadRecordLines(const QString& path, DatKind expected, const QString& kind)
-{
-    DatInputFile file;
-    if (!file.Open(path))
-        throw BuildError(u"%1 kann nicht gelesen werden"_s.arg(path));
-    if (KindOfHeader(file.ReadLine(), Series, kind) != expected)
-        throw BuildError(u"%1 hat nicht die erwartete Kopfzeile"_s.arg(path));
-    QStringList lines;
-    while (!file.AtEnd())
-        lines << file.ReadLine();
-    return lines;
-}
-
-template <typename Reader, typename Record>
-std::vector<Record> ReadRecords(const QString& path, DatKind kind, const QString& listKind)
-{
-    Reader reader;
-    std::vector<Record> records;
-    int lineNumber = 1;
-    for (const QString& line : ReadRecordLines(path, kind, listKind)) {
-        ++lineNumber;
-        const Record& record = reader.Read(line);
-        if (!record.IsGood())
-            throw BuildError(u"%1, Zeile %2 ist unvollständig"_s.arg(path).arg(lineNumber));
-        records.push_back(record);
-    }
-    return records;
-}
-
-std::vector<ListRecord> ReadList(const QString& path, const QString& kind)
-{
-    return ReadRecords<ListReader, ListRecord>(path, DatKind::List, kind);
-}
-
-std::vector<DetailsRecord> ReadDetails(const QString& path)
-{
-    return ReadRecords<DetailsReader, DetailsRecord>(path, DatKind::Details, QString());
-}
 
 void Run(Database& db, const QString& sql)
 {
@@ -229,16 +178,5 @@ void Build(const QString& data, const QString& out)
 int main(int argc, char** argv)
 {
     QCoreApplication app(argc, argv);
-    const QStringList args = app.arguments();
-    if (args.size() != 3) {
-        std::fprintf(stderr, "Aufruf: heftarium-build-data DATENORDNER AUSGABEORDNER\n");
-        return 2;
-    }
-    try {
-        Build(args[1], args[2]);
-    } catch (const BuildError& error) {
-        std::fprintf(stderr, "heftarium-build-data: %s\n", qPrintable(error.Text()));
-        return 1;
-    }
-    return 0;
+    return RunBuildTool(app.arguments(), "heftarium-build-data", Build);
 }

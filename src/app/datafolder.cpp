@@ -1,6 +1,7 @@
 #include "datafolder.h"
 
 #include <QDir>
+#include <QDirIterator>
 #include <QFileInfo>
 #include <QStandardPaths>
 
@@ -25,6 +26,27 @@ const QStringList& FirstStartFolders()
         u"tibis/Valdorin (Taschenbücher)"_s, u"illus/Valdorin (Taschenbücher)"_s,
         u"rizes/Valdorin (Taschenbücher)"_s};
     return folders;
+}
+
+// The sample archive and pictures: copied on the first start beside the
+// shipped files, so that a new user can try them at once.
+const QStringList& SampleTrees()
+{
+    static const QStringList trees = {u"Archiv"_s, u"tibis"_s, u"illus"_s, u"rizes"_s};
+    return trees;
+}
+
+// Copies what the target lacks; a file the user has is never replaced.
+void CopyMissing(const QString& from, const QString& to)
+{
+    QDirIterator files(from, QDir::Files, QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        const QString source = files.next();
+        const QString target = to + source.mid(from.size());
+        QDir().mkpath(QFileInfo(target).absolutePath());
+        if (!QFileInfo::exists(target))
+            QFile::copy(source, target);
+    }
 }
 
 } // namespace
@@ -74,6 +96,9 @@ QString PrepareDataFolder(const QString& base, const QString& allUsersSource, co
             QFile::copy(allUsersSource + file, target);
             QFile::setPermissions(target, QFile::permissions(target) | QFileDevice::WriteOwner);
         }
+        if (!allUsersSource.isEmpty())
+            for (const QString& tree : SampleTrees())
+                CopyMissing(allUsersSource + tree, dataFolder + u'/' + tree);
     }
     if (!HasMarker(dataFolder))
         dataFolder = appPath;

@@ -2,6 +2,7 @@
 #include "cliexchange.h"
 #include "clistats.h"
 #include "clifilterwords.h"
+#include "clipictures.h"
 #include "clihelp.h"
 #include "cliprint.h"
 #include "clisafety.h"
@@ -268,6 +269,10 @@ int RunDbCommand(Session& session, const QStringList& arguments, QTextStream& ou
         return StatsCommand(session, arguments.mid(3), out, err);
     if (command == u"print")
         return PrintCommand(session, arguments.mid(3), out, err);
+    if (command == u"picture")
+        return PictureCommand(session, arguments.mid(3), out, err);
+    if (command == u"archive")
+        return ArchiveCommand(session, arguments.mid(3), out, err);
     if (command == u"backup" && arguments.size() <= 4)
         return BackupCommand(session, arguments.mid(3), out, err);
     if (command == u"check")

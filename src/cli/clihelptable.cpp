@@ -90,6 +90,29 @@ const QList<CliCommandHelp>& CliCommands()
           {u"--pdf DATEI.pdf"_s, u"die Datei, in die die Seiten geschrieben werden"_s}},
          {{1, u"Die Datei ließ sich nicht schreiben, oder der Bereich enthält keine Seite."_s},
           {2, u"Ausgabe, Bereich oder Kriterien sind ungültig."_s}}},
+        {u"picture"_s,
+         {u"heftarium-cli --db DATEI picture NR [--kind tibi|rize|illu] [--page N]"_s,
+          u"heftarium-cli --db DATEI picture add NR DATEI --kind tibi|rize|illu [--page N] [--overwrite]"_s},
+         u"Gibt die Bilddatei aus, die der Bildbetrachter zum Eintrag NR zeigt, oder den Hinweis, dass es das Bild "
+         "nicht gibt. Mit add übernimmt der Befehl DATEI (.jpg oder .bmp) wie das Ablegen auf einem Bildfeld der "
+         "Details."_s,
+         {{u"--kind tibi|rize|illu"_s, u"Titelbild (Vorgabe), Risszeichnung oder Innenillustration"_s},
+          {u"--page N"_s, u"die Seite einer Innenillustration; ohne die Option beim Zeigen alle Seiten"_s},
+          {u"--overwrite"_s, u"ersetzt ein Bild, das es schon gibt"_s}},
+         {{1, u"Die Einstellungen sind nicht lesbar, oder das Bild wurde nicht übernommen."_s},
+          {2, u"Nummer, Art oder Datei fehlen, oder die Art ist unbekannt."_s}}},
+        {u"archive"_s,
+         {u"heftarium-cli --db DATEI archive page NR"_s,
+          u"heftarium-cli --db DATEI archive search --word TEXT [--word2 TEXT] [--join UND|ODER|EXOR] "
+          "[--mode Farbe|Filter] [FELD:VERGLEICH:WERT ...]"_s},
+         u"page gibt die Seite des Archivs aus, die der Browser zum Eintrag NR bekäme. search durchsucht die "
+         "Archivseiten der Einträge (mit Kriterien wie beim Befehl filter nur die gefundenen) nach Stichwörtern und "
+         "gibt den Filter als Satz und die Nummern der behaltenen oder markierten Einträge aus."_s,
+         {{u"--word TEXT, --word2 TEXT"_s, u"das erste und das zweite Stichwort"_s},
+          {u"--join UND|ODER|EXOR"_s, u"wie die beiden Stichwörter verknüpft werden; Vorgabe UND"_s},
+          {u"--mode Farbe|Filter"_s, u"Treffer markieren oder nur die Treffer behalten (Vorgabe)"_s}},
+         {{1, u"Die Einstellungen sind nicht lesbar, oder es gibt keine Archivseite zum Eintrag."_s},
+          {2, u"Unterbefehl, Stichwort, Verknüpfung oder Modus fehlen oder sind unbekannt."_s}}},
         {u"backup"_s,
          {u"heftarium-cli --db DATEI backup [ZIEL]"_s},
          u"Legt sofort eine Sicherung der Sammlung an, wie das Programm sie bei der ersten Änderung eines Tages "

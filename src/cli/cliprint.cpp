@@ -6,6 +6,7 @@
 #include "clihelp.h"
 #include "clicommands.h"
 #include "clifilterwords.h"
+#include "clihelp.h"
 #include "cliprint.h"
 
 #include "core/config.h"

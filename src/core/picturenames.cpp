@@ -6,9 +6,14 @@ using namespace Qt::StringLiterals;
 
 namespace heft {
 
+QString PictureSubfolder(const Configuration& config, const QString& kind)
+{
+    return kind + u"s/"_s + config.SeriesName + u" ("_s + config.ListKind + u')';
+}
+
 QString PictureFolder(const Configuration& config, const QString& kind)
 {
-    return config.PictureRoot + u'/' + kind + u"s/"_s + config.SeriesName + u" ("_s + config.ListKind + u')';
+    return config.PictureRoot + u'/' + PictureSubfolder(config, kind);
 }
 
 QString PictureFileName(int nr, const QString& kind, const QString& page, const QString& extension)

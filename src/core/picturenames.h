@@ -14,7 +14,10 @@ struct Configuration;
 inline constexpr char16_t CoverKind[] = u"tibi";
 inline constexpr char16_t CutawayKind[] = u"rize";
 inline constexpr char16_t IllustrationKind[] = u"illu";
+inline QString KindWord(const char16_t* kind) { return QString::fromUtf16(kind); }
 
+// "{kind}s/{SeriesName} ({ListKind})", the folder below PictureRoot.
+QString PictureSubfolder(const Configuration& config, const QString& kind);
 // "{PictureRoot}/{kind}s/{SeriesName} ({ListKind})"
 QString PictureFolder(const Configuration& config, const QString& kind);
 // "{Nr}{kind}{page}{ext}"; page is empty or three digits, ext starts with a dot.

@@ -10,8 +10,8 @@
 namespace heft {
 
 enum class MessageIcon { None, Information, Question, Exclamation, Critical };
-enum class MessageButtons { Ok, OkCancel, YesNo };
-enum class Answer { Ok, Cancel, Yes, No };
+enum class MessageButtons { Ok, OkCancel, YesNo, RetryCancel };
+enum class Answer { Ok, Cancel, Yes, No, Retry };
 
 struct Message {
     QString title;
@@ -41,9 +41,13 @@ public:
         asked.append(message);
         if (!answers.isEmpty())
             return answers.takeFirst();
-        return message.buttons == MessageButtons::YesNo ? Answer::No
-               : message.buttons == MessageButtons::OkCancel ? Answer::Cancel
-                                                             : Answer::Ok;
+        switch (message.buttons) {
+        case MessageButtons::YesNo: return Answer::No;
+        case MessageButtons::OkCancel:
+        case MessageButtons::RetryCancel: return Answer::Cancel;
+        case MessageButtons::Ok: break;
+        }
+        return Answer::Ok;
     }
     QList<Answer> answers;
     QList<Message> asked;

@@ -3,6 +3,7 @@
 #include "sortkeys.h"
 #include "sortpictures.h"
 
+#include <QColor>
 #include <QFont>
 
 #include <algorithm>
@@ -57,9 +58,25 @@ QVariant EntryGridModel::data(const QModelIndex& index, int role) const
         return Text(index.row(), index.column());
     case Qt::TextAlignmentRole:
         return QVariant::fromValue(ColumnLooks()[static_cast<size_t>(index.column())].cellAlign);
+    case Qt::BackgroundRole:
+        if (index.column() == ColNr && IsHitMarked(index.row()))
+            return QColor(0, 255, 0);
+        return {};
     default:
         return {};
     }
+}
+
+void EntryGridModel::MarkHit(int row)
+{
+    m_hitNrs.insert(Text(row, ColNr));
+    const QModelIndex cell = index(row, ColNr);
+    Q_EMIT dataChanged(cell, cell, {Qt::BackgroundRole});
+}
+
+bool EntryGridModel::IsHitMarked(int row) const
+{
+    return !m_hitNrs.isEmpty() && m_hitNrs.contains(Text(row, ColNr));
 }
 
 QVariant EntryGridModel::headerData(int section, Qt::Orientation orientation, int role) const
@@ -114,6 +131,7 @@ void EntryGridModel::Reset(std::vector<EntryCells> rows)
 {
     beginResetModel();
     m_rows = std::move(rows);
+    m_hitNrs.clear();
     endResetModel();
 }
 

@@ -5,6 +5,7 @@
 // included, and nothing else of the database.
 
 #include <QAbstractTableModel>
+#include <QSet>
 #include <QString>
 
 #include <array>
@@ -72,6 +73,11 @@ public:
     // left alone.
     void Sort(int column, SortMode mode);
 
+    // The archive search colours the number cell of a hit green; the mark
+    // stays with the entry through sorting and goes with the next reset.
+    void MarkHit(int row);
+    bool IsHitMarked(int row) const;
+
     void SetHeaderMark(int column, bool bold, SortPicture picture);
     bool HeaderBold(int column) const { return m_marks[static_cast<size_t>(column)].bold; }
     SortPicture HeaderPicture(int column) const { return m_marks[static_cast<size_t>(column)].picture; }
@@ -82,6 +88,7 @@ private:
         SortPicture picture = SortPicture::None;
     };
     std::vector<EntryCells> m_rows;
+    QSet<QString> m_hitNrs;
     std::array<HeaderMark, EntryColumnCount> m_marks{};
 };
 

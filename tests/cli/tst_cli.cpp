@@ -48,7 +48,8 @@ private Q_SLOTS:
     }
 
     // Help and version answer on stdout before any file is touched; a wrong
-    // call answers on stderr with the way the command is called.
+    // call answers on stderr with the way the command is called; commands on
+    // the shipped sample answer on stdout.
     void helpAndUsage_data()
     {
         QTest::addColumn<QStringList>("arguments");
@@ -70,6 +71,15 @@ private Q_SLOTS:
                                            << QString() << u"Mehr dazu: heftarium-cli create --help"_s;
         QTest::newRow("cycles without action") << QStringList{u"--cycle-db"_s, missing, u"cycles"_s} << 2 << QString()
                                                << u"heftarium-cli --cycle-db DATEI cycles export"_s;
+        // Pictures and archive are found beside the sample's DBs/ folder.
+        const QString sample = QStringLiteral(HEFTARIUM_RUNTIME_DIR "/DBs/VN-HR.mdb");
+        QTest::newRow("sample cover") << QStringList{u"--db"_s, sample, u"picture"_s, u"1"_s} << 0
+                                      << u"tibis/Valdorin (Heftromane)/1tibi.jpg\n"_s << QString();
+        QTest::newRow("sample archive page") << QStringList{u"--db"_s, sample, u"archive"_s, u"page"_s, u"1"_s} << 0
+                                             << u"Archiv/HEFTE/HEFT0001.HTM\n"_s << QString();
+        QTest::newRow("sample keyword search")
+            << QStringList{u"--db"_s, sample, u"archive"_s, u"search"_s, u"--word"_s, u"Anselm"_s, u"Nr:KLEINER:5"_s}
+            << 0 << u"(1 Eintrag gefiltert)\n1\n2\n3\n"_s << QString();
     }
     void helpAndUsage()
     {

@@ -10,6 +10,7 @@
 #include "core/version.h"
 #include "cycles/ui/cyclewindowinstall.h"
 #include "details/ui/detailopener.h"
+#include "details/ui/picturecommands.h"
 #include "exchange/ui/exportdialog.h"
 #include "exchange/ui/importwindow.h"
 #include "filter/ui/filtermode.h"
@@ -90,6 +91,7 @@ int main(int argc, char** argv)
     heft::MainWindow window;
     window.LoadList(session);
     heft::InstallDetailWindow(window);
+    heft::InstallPictureCommands(window);
     heft::InstallFilterMode(window);
     heft::InstallCycleWindow(window);
     heft::InstallPrintWindow(window);

@@ -6,6 +6,7 @@
 #include "details/detailsave.h"
 #include "details/erstdatum.h"
 #include "linkspanel.h"
+#include "picturepanel.h"
 #include "statuspanel.h"
 
 #include "core/session.h"
@@ -89,6 +90,7 @@ DetailWindow::DetailWindow(Session& session, EntryList& list, bool editMode, QWi
     m_ui->layLinks->addWidget(m_links);
     const EntryGrid& grid = *list.ActiveGrid;
     m_nr = static_cast<int>(Val(grid.TextMatrix(grid.Row(), ColNr)));
+    new PicturePanel(session, m_nr, *m_ui, this);
     SetupControls();
     Load();
 }

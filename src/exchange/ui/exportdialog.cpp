@@ -46,7 +46,7 @@ ExportList ActiveList(MainWindow& window)
             list.rows[static_cast<size_t>(row)][static_cast<size_t>(column)] = model.Text(row, column);
     list.filtered = window.IsFilterMode();
     if (const FilterState* state = FilterStateOf(window); state && list.filtered)
-        list.filterText = state->FilterText;
+        list.filterText = state->FilterText + state->ArchiveFilterNote;
     return list;
 }
 

@@ -1,6 +1,9 @@
 #include "filterdialog.h"
 #include "ui_filterdialog.h"
 
+#include "archivesearchrun.h"
+
+#include "filter/archivesearch.h"
 #include "filter/filterfields.h"
 #include "filtermode.h"
 #include "filter/filterrun.h"
@@ -22,9 +25,6 @@ namespace heft {
 
 namespace {
 
-// The keyword search reads the publisher's archive, which exists for this
-// series only.
-const QString ArchiveSeries = u"Valdorin"_s;
 // The list index of ÄHNLICH, where a list field takes a typed pattern.
 constexpr int CompareLike = 2;
 
@@ -52,6 +52,8 @@ FilterDialog::FilterDialog(MainWindow& window, FilterState& state)
       m_generator(window.CurrentSession())
 {
     m_ui->setupUi(this);
+    m_state.ArchiveFilterText.clear();
+    m_state.ArchiveFilterNote.clear();
     SetupArchiveFrame();
     // The full list gets its sort back when the filter ends; whoever changes
     // it meanwhile says so through ResortOnReturn.
@@ -391,6 +393,12 @@ bool FilterDialog::TakeResult(const FilterOutcome& outcome)
     // The filter list keeps the column widths the user gave the full list.
     for (int col = ColAutor; col <= ColBemerkung; ++col)
         list.Filter.SetColWidth(col, list.Heftliste.ColWidth(col));
+    const ArchiveQuery query{static_cast<ArchiveMode>(m_ui->cmb_aftype->currentIndex()), m_ui->txt_archiv1->text(),
+                             m_ui->txt_archiv2->text(), static_cast<ArchiveJoin>(m_ui->cmb_archiv->currentIndex())};
+    if (!SearchArchiveFromFilter(m_window, query, m_state)) {
+        m_rows.front().choose->setFocus();
+        return false;
+    }
     list.ShowFilterGrid(true);
     m_window.FinishProgress(250);
     m_window.SetStatusPanel(5, u"Fertig und Bereit [Filter ist AKTIV]."_s);

@@ -107,7 +107,7 @@ void FilterMode::PanelClicked(int panel)
 {
     if (panel != FilterPanel || m_window.StatusPanelText(FilterPanel) != u"F")
         return;
-    SmallFilterWindow window(m_state.FilterText, &m_window);
+    SmallFilterWindow window(m_state.FilterText + m_state.ArchiveFilterText, &m_window);
     window.exec();
 }
 

@@ -19,6 +19,10 @@ class MainWindow;
 struct FilterState {
     QString FilterWhere; // the WHERE condition, ends with a blank
     QString FilterText;  // the filter as a sentence for the user
+    // The archive keyword search in words: in full for the small filter
+    // window, short for the heads of prints and exports.
+    QString ArchiveFilterText;
+    QString ArchiveFilterNote;
 };
 
 class FilterMode : public QObject {
