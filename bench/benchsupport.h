@@ -22,6 +22,9 @@ void Register(Figure figure);
 // Runs the figures whose names start with one of the prefixes (all when
 // none is given) and prints "name: value" per figure.
 int RunFigures(const QStringList& prefixes);
+// Serves the web import's fixture wiki on 127.0.0.1 and prints its address,
+// for HEFTARIUM_WIKI_URL and HEFTARIUM_PUBLISHER_URL; returns when stopped.
+int ServeFixtureWiki();
 
 // Median wall time in milliseconds of `runs` calls.
 double MedianMs(int runs, const std::function<void()>& job);

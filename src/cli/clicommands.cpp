@@ -279,6 +279,8 @@ int RunDbCommand(Session& session, const QStringList& arguments, QTextStream& ou
         return CheckCommand(session, out);
     if (command == u"renumber")
         return RenumberCommand(session, arguments.mid(3), out, err);
+    if (command == u"webimport")
+        return WebImportCommand(session, arguments.mid(3), out, err);
     return UsageError(err, command);
 }
 

@@ -13,6 +13,8 @@ class Session;
 int ImportCommand(Session& session, const QStringList& words, QTextStream& out, QTextStream& err);
 // words: everything behind "export".
 int ExportCommand(Session& session, const QStringList& words, QTextStream& out, QTextStream& err);
+// words: everything behind "webimport", e.g. {"2401", "2409", "--tibi"}.
+int WebImportCommand(Session& session, const QStringList& words, QTextStream& out, QTextStream& err);
 // arguments: the whole command line, starting with "--cycle-db PATH".
 int CyclesCommand(const QStringList& arguments, QTextStream& out, QTextStream& err);
 

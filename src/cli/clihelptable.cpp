@@ -65,6 +65,17 @@ const QList<CliCommandHelp>& CliCommands()
           {u"--gelesen"_s, u"mit der Spalte GL in Text und HTML"_s},
           {u"--zyklus"_s, u"behält „-“ und „- - -“ in Text und HTML"_s}},
          {{1, u"Die Abfrage ist gescheitert, oder der Ordner von BASIS fehlt."_s}}},
+        {u"webimport"_s,
+         {u"heftarium-cli --db DATEI webimport VON BIS [--tibi] [--illu]"_s},
+         u"Holt die Hefte VON bis BIS wie der Web-Import des Programms aus dem Wiki der Serie in eine Austauschdatei "
+         "und ihre Details-Datei im Ordner import des Datenordners (dem Ordner über DBs), und gibt Bericht, "
+         "Fehlerliste und die geschriebenen Dateien aus. Die Umgebungsvariablen HEFTARIUM_WIKI_URL und "
+         "HEFTARIUM_PUBLISHER_URL ersetzen die Adressen von Wiki und Verlag."_s,
+         {{u"--tibi"_s, u"holt auch die Titelbilder in den Bilderordner"_s},
+          {u"--illu"_s, u"holt auch die Illustrationen in den Bilderordner"_s}},
+         {{1, u"Ein Heft ließ sich nicht holen (die Zeilen davor sind geschrieben), oder die Konfiguration ist "
+              "nicht lesbar."_s},
+          {2, u"VON oder BIS ist keine Zahl, oder eine Option ist unbekannt."_s}}},
         {u"stats"_s,
          {u"heftarium-cli --db DATEI stats NAME [--author TEXT] [--cycle ZYKLUS] [--preiswert 0|1|2] [--rows]"_s},
          u"Gibt eine Statistik wie das Statistikfenster aus; NAME ist einer ihrer Namen im Fenster, z. B. "

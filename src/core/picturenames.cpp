@@ -1,19 +1,15 @@
 #include "picturenames.h"
 
+#include "pathresolve.h"
 #include "session.h"
 
 using namespace Qt::StringLiterals;
 
 namespace heft {
 
-QString PictureSubfolder(const Configuration& config, const QString& kind)
-{
-    return kind + u"s/"_s + config.SeriesName + u" ("_s + config.ListKind + u')';
-}
-
 QString PictureFolder(const Configuration& config, const QString& kind)
 {
-    return config.PictureRoot + u'/' + PictureSubfolder(config, kind);
+    return ResolvePath(config.PictureRoot, kind + u"s/"_s + config.SeriesName + u" ("_s + config.ListKind + u')');
 }
 
 QString PictureFileName(int nr, const QString& kind, const QString& page, const QString& extension)

@@ -16,9 +16,10 @@ inline constexpr char16_t CutawayKind[] = u"rize";
 inline constexpr char16_t IllustrationKind[] = u"illu";
 inline QString KindWord(const char16_t* kind) { return QString::fromUtf16(kind); }
 
-// "{kind}s/{SeriesName} ({ListKind})", the folder below PictureRoot.
-QString PictureSubfolder(const Configuration& config, const QString& kind);
-// "{PictureRoot}/{kind}s/{SeriesName} ({ListKind})"
+// "{PictureRoot}/{kind}s/{SeriesName} ({ListKind})" as it lies on disk:
+// names that exist in another case, as a copy from another system may give
+// them, are taken as they are. The store, the viewer and the web import all
+// read and write there.
 QString PictureFolder(const Configuration& config, const QString& kind);
 // "{Nr}{kind}{page}{ext}"; page is empty or three digits, ext starts with a dot.
 QString PictureFileName(int nr, const QString& kind, const QString& page, const QString& extension);

@@ -25,13 +25,6 @@ constexpr int MaxShownHeight = 540;
 
 QString Padded(int number, int digits) { return u"%1"_s.arg(number, digits, 10, QChar(u'0')); }
 
-// The store's folder of the kind as it lies on disk, whatever case the
-// copy of another system gave its names.
-QString StoreFolder(const Configuration& config, const QString& kind)
-{
-    return ResolvePath(config.PictureRoot, PictureSubfolder(config, kind));
-}
-
 // Where the archive keeps a cover, for the CD in the drive or a copy.
 QStringList ArchiveCoverPaths(const Configuration& config, const QString& cdRoot, const QString& label, int nr)
 {
@@ -102,7 +95,7 @@ DropOutcome DropPicture(Session& session, int nr, const QString& kind, const QSt
             return {};
     }
     const Configuration& config = session.Config;
-    const QString folder = StoreFolder(config, kind);
+    const QString folder = PictureFolder(config, kind);
     QDir().mkpath(folder);
     const QString name = PictureFileName(nr, kind, page, extension);
     const QString target = ResolvePath(folder, name);
@@ -133,7 +126,7 @@ DropOutcome DropPicture(Session& session, int nr, const QString& kind, const QSt
 
 QStringList IllustrationPages(const Configuration& config, int nr)
 {
-    const QDir folder(StoreFolder(config, KindWord(IllustrationKind)));
+    const QDir folder(PictureFolder(config, KindWord(IllustrationKind)));
     const QString stem = PictureFileName(nr, KindWord(IllustrationKind), {}, {});
     for (const QString& extension : PictureExtensions()) {
         // Name filters are case-blind unless told otherwise.
@@ -172,7 +165,7 @@ PictureCandidates FindPictureCandidates(const Configuration& config, const QList
                                         const PictureKind& kind)
 {
     PictureCandidates candidates;
-    const QString folder = StoreFolder(config, kind.kind);
+    const QString folder = PictureFolder(config, kind.kind);
     for (const QString& extension : PictureExtensions())
         candidates.store << ResolvePath(folder, PictureFileName(nr, kind.kind, kind.page, extension));
     if (kind.kind == KindWord(CoverKind)) {

@@ -57,7 +57,6 @@ class TestImportWindow : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-
     // A list file with two refused lines, both reports showing.
     void importsAndReports()
     {

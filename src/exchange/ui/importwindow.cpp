@@ -46,6 +46,9 @@ ImportWindow::ImportWindow(MainWindow& window)
     connect(m_ui->btn_choose, &QPushButton::clicked, this, &ImportWindow::ChooseImportFile);
     connect(m_ui->btn_impdir, &QPushButton::clicked, this, &ImportWindow::OpenImportFolder);
     connect(m_ui->btn_verlassen, &QPushButton::clicked, this, &ImportWindow::reject);
+    // The wiki knows only the issues of the shipped series.
+    m_ui->btn_webupdate->setEnabled(config.SeriesName == u"Valdorin" && config.ListKind == u"Heftromane");
+    connect(m_ui->btn_webupdate, &QPushButton::clicked, this, &ImportWindow::WebUpdate);
 }
 
 ImportWindow::~ImportWindow() = default;

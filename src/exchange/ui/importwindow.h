@@ -44,6 +44,9 @@ private:
     void ChooseImportFile();
     void OpenImportFolder();
     void ShowTexts();
+    // btn_webupdate: asks for a range, then fetches it from the wiki into a
+    // pair of files in the import folder (importwebupdate.cpp).
+    void WebUpdate();
 
     void Started(qint64 maximum) override;
     bool LineDone(qint64 position) override;
