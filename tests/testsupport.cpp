@@ -3,6 +3,7 @@
 #include "core/schema.h"
 #include "core/textfuncs.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QTest>
 
@@ -47,6 +48,36 @@ QVariant TempCollection::Value(const QString& sql)
     if (error)
         qFatal("query failed: %s\n%s", qPrintable(error.description), qPrintable(sql));
     return value;
+}
+
+ModalScript::ModalScript(const QString& name) : m_name(name)
+{
+    m_timer.setInterval(5);
+    QObject::connect(&m_timer, &QTimer::timeout, [this] { Poll(); });
+    m_timer.start();
+}
+
+void ModalScript::Poll()
+{
+    auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    if (!dialog || dialog->objectName() != m_name || dialog->property("scripted").toBool())
+        return;
+    dialog->setProperty("scripted", true);
+    ++opened;
+    if (!m_steps.isEmpty())
+        m_steps.takeFirst()(*dialog);
+    if (dialog->isVisible()) {
+        leftOpen = true;
+        dialog->reject();
+    }
+}
+
+void TempCollection::Reopen()
+{
+    DbError error;
+    session.CollectionDb = Database::Open(Path(), &error);
+    if (!session.CollectionDb)
+        qFatal("test collection not reopened: %s", qPrintable(error.description));
 }
 
 void WriteFile(const QString& path, const QByteArray& bytes)

@@ -1,35 +1,20 @@
 // heftarium-cli as a script would use it: a new collection, its summary, and
 // statements with their printed results and exit codes.
 
+#include "clirun.h"
 #include "testmain.h"
 
-#include "cli/clicommands.h"
-#include "cli/clihelp.h"
 #include "core/version.h"
 
 #include <QTemporaryDir>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
+using namespace heft::test;
 
 namespace {
 
-struct CliRun {
-    int code;
-    QString out;
-    QString err;
-    bool operator==(const CliRun&) const = default;
-};
-
-CliRun Run(const QStringList& arguments)
-{
-    QString out, err;
-    QTextStream outStream(&out), errStream(&err);
-    const int code = heft::RunCli(arguments, outStream, errStream);
-    outStream.flush();
-    errStream.flush();
-    return {code, out, err};
-}
+CliRun Run(const QStringList& arguments) { return RunCliWith(arguments); }
 
 } // namespace
 
@@ -62,23 +47,6 @@ private Q_SLOTS:
         QCOMPARE(Run({u"--db"_s, db, u"sql"_s, u"SELECT * FROM Fehlt;"_s}).code, 1);
     }
 
-    void badCalls_data()
-    {
-        QTest::addColumn<QStringList>("arguments");
-        QTest::addColumn<int>("code");
-        QTest::newRow("nothing") << QStringList() << 2;
-        QTest::newRow("create without kind") << QStringList{u"create"_s, u"x.mdb"_s, u"--series"_s, u"S"_s} << 2;
-        QTest::newRow("unknown command") << QStringList{u"--db"_s, u"/nirgends/x.mdb"_s, u"info"_s} << 1;
-    }
-    void badCalls()
-    {
-        QFETCH(QStringList, arguments);
-        QFETCH(int, code);
-        const CliRun run = Run(arguments);
-        QCOMPARE(run.code, code);
-        QVERIFY(!run.err.isEmpty());
-    }
-
     // Help and version answer on stdout before any file is touched; a wrong
     // call answers on stderr with the way the command is called; commands on
     // the shipped sample answer on stdout.
@@ -91,11 +59,14 @@ private Q_SLOTS:
         const QString missing = u"/nirgends/x.mdb"_s;
         QTest::newRow("version") << QStringList{u"--version"_s} << 0 << u"heftarium-cli "_s + heft::ProgramVersion()
                                  << QString();
+        QTest::newRow("whole help") << QStringList{u"--help"_s} << 0 << u"  2  Falscher Aufruf"_s << QString();
         QTest::newRow("command help") << QStringList{u"import"_s, u"--help"_s} << 0 << u"--mode 0|1|2"_s << QString();
         QTest::newRow("help behind a file") << QStringList{u"--db"_s, missing, u"export"_s, u"-h"_s} << 0
                                             << u"--format dat,txt,html"_s << QString();
         QTest::newRow("unknown command") << QStringList{u"--db"_s, missing, u"zeige"_s} << 2 << QString()
                                          << u"Unbekannter Befehl: zeige"_s;
+        QTest::newRow("nothing") << QStringList() << 2 << QString() << u"heftarium-cli --help"_s;
+        QTest::newRow("missing file") << QStringList{u"--db"_s, missing, u"info"_s} << 1 << QString() << missing;
         QTest::newRow("create incomplete") << QStringList{u"create"_s, u"x.mdb"_s, u"--series"_s, u"S"_s} << 2
                                            << QString() << u"Mehr dazu: heftarium-cli create --help"_s;
         QTest::newRow("cycles without action") << QStringList{u"--cycle-db"_s, missing, u"cycles"_s} << 2 << QString()
@@ -122,22 +93,6 @@ private Q_SLOTS:
         QVERIFY2(err.isEmpty() ? run.err.isEmpty() : run.err.contains(err), qPrintable(run.err));
     }
 
-    // Every command of the table has its own help, and the whole help lists
-    // them all with their exit codes.
-    void everyCommandHelped()
-    {
-        const QString all = Run({u"--help"_s}).out;
-        QVERIFY(all.contains(u"  2  Falscher Aufruf"_s));
-        for (const heft::CliCommandHelp& command : heft::CliCommands()) {
-            const CliRun own = Run({command.name, u"--help"_s});
-            QCOMPARE(own.code, 0);
-            for (const QString& synopsis : command.synopses) {
-                QVERIFY2(synopsis.startsWith(u"heftarium-cli "_s), qPrintable(synopsis));
-                QVERIFY2(own.out.simplified().contains(synopsis), qPrintable(own.out));
-                QVERIFY2(all.simplified().contains(synopsis), qPrintable(synopsis));
-            }
-        }
-    }
 };
 
 HEFT_TEST(TestCli)

@@ -4,7 +4,7 @@
 
 #include "testmain.h"
 
-#include "cli/clicommands.h"
+#include "clirun.h"
 #include "core/schema.h"
 
 #include <QDir>
@@ -46,21 +46,18 @@ private Q_SLOTS:
             QVERIFY(!db->Execute(u"INSERT INTO ZyklusListe VALUES ('I', 1, 50, -3, 9, 'Anfang', NULL);"_s));
         }
         const QStringList arguments{u"--cycle-db"_s, path, u"cycles"_s, u"export"_s};
-        QString out, err;
-        QTextStream outStream(&out), errStream(&err);
-        QCOMPARE(heft::RunCli(arguments + options, outStream, errStream), code);
-        outStream.flush();
-        errStream.flush();
-        QCOMPARE(err.isEmpty(), code == 0);
+        const heft::test::CliRun run = heft::test::RunCliWith(arguments + options);
+        QCOMPARE(run.code, code);
+        QCOMPARE(run.err.isEmpty(), code == 0);
         if (written.isEmpty()) {
-            QVERIFY(out.isEmpty());
+            QVERIFY(run.out.isEmpty());
             return;
         }
         QFile file(dir.filePath(written));
         QVERIFY(file.open(QIODevice::ReadOnly));
         const QByteArray bytes = file.readAll();
         QVERIFY(bytes.endsWith("\"I\";\"1\";\"50\";\"-3\";\"9\";\"Anfang\";\"\";\r\n"));
-        QCOMPARE(out, u"Ein Eintrag wurde in die Datei\n'%1'\ngesichert (%2 Bytes Dateilänge).\n"_s
+        QCOMPARE(run.out, u"Ein Eintrag wurde in die Datei\n'%1'\ngesichert (%2 Bytes Dateilänge).\n"_s
                           .arg(QDir::toNativeSeparators(file.fileName()))
                           .arg(bytes.size()));
     }

@@ -1,10 +1,9 @@
 // The export command: the formats and flags as the window's check boxes,
 // criteria rows as a filter list, the result text, and what it refuses.
 
+#include "clirun.h"
 #include "exchange/exportfixture.h"
 #include "testmain.h"
-
-#include "cli/clicommands.h"
 
 #include <QDir>
 #include <QTest>
@@ -49,18 +48,14 @@ private Q_SLOTS:
         QFETCH(QString, summary);
         TempCollection c;
         AddExportEntries(c);
-        c.session.CollectionDb.reset();
+        c.Close();
         const QString base = c.dir.filePath(u"Liste"_s);
 
-        QString printed, errors;
-        QTextStream outStream(&printed), errStream(&errors);
-        QCOMPARE(heft::RunCli(QStringList{u"--db"_s, c.Path(), u"export"_s, base} + arguments, outStream, errStream),
-                 code);
-        outStream.flush();
-        errStream.flush();
-        QVERIFY2(out.isEmpty() ? printed.isEmpty() : printed.startsWith(out.contains(u"%1"_s) ? out.arg(base) : out),
-                 qPrintable(printed));
-        QCOMPARE(errors.isEmpty(), code == 0);
+        const CliRun run = RunCliWith(QStringList{u"--db"_s, c.Path(), u"export"_s, base} + arguments);
+        QCOMPARE(run.code, code);
+        QVERIFY2(out.isEmpty() ? run.out.isEmpty() : run.out.startsWith(out.contains(u"%1"_s) ? out.arg(base) : out),
+                 qPrintable(run.out));
+        QCOMPARE(run.err.isEmpty(), code == 0);
         QStringList made = QDir(c.dir.path()).entryList({u"Liste*"_s}, QDir::Files);
         for (const QString& file : files) {
             QVERIFY2(QFile::exists(base + file), qPrintable(file));

@@ -3,7 +3,7 @@
 
 #include "testmain.h"
 
-#include "cli/clicommands.h"
+#include "clirun.h"
 
 #include <QDir>
 #include <QFile>
@@ -60,15 +60,13 @@ private Q_SLOTS:
     {
         QFETCH(QStringList, words);
         const QString pdf = m_dir.filePath(u"seiten.pdf"_s);
-        QString output, errors;
-        QTextStream out(&output), err(&errors);
-        const int code = heft::RunCli(QStringList{u"--db"_s, m_dir.filePath(u"DBs/Heftarium.mdb"_s), u"print"_s} +
-                                          words + QStringList{u"--pdf"_s, pdf},
-                                      out, err);
-        QVERIFY2(code == 0, qPrintable(errors));
-        const QString pages = QRegularExpression(u"Seiten: (\\d+)"_s).match(output).captured(1);
+        const heft::test::CliRun run = heft::test::RunCliWith(
+            QStringList{u"--db"_s, m_dir.filePath(u"DBs/Heftarium.mdb"_s), u"print"_s} + words +
+            QStringList{u"--pdf"_s, pdf});
+        QVERIFY2(run.code == 0, qPrintable(run.err));
+        const QString pages = QRegularExpression(u"Seiten: (\\d+)"_s).match(run.out).captured(1);
         const QString info = Tool(u"pdfinfo"_s, {pdf});
-        QVERIFY2(info.contains(QRegularExpression(u"Pages: +%1\n"_s.arg(pages))), qPrintable(info + output));
+        QVERIFY2(info.contains(QRegularExpression(u"Pages: +%1\n"_s.arg(pages))), qPrintable(info + run.out));
         QFETCH(QString, size);
         QVERIFY2(info.contains(size), qPrintable(info));
         QStringList squeezed;

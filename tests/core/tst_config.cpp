@@ -46,19 +46,6 @@ private Q_SLOTS:
         QVERIFY(!error.description.isEmpty());
     }
 
-    void noParameterTable()
-    {
-        TempCollection collection;
-        collection.Exec(u"DROP TABLE Parameter;"_s);
-        collection.session.Config.MaxAuflage = 9;
-        collection.session.Config.PictureRoot = u"/anderswo"_s;
-        ReadParameters(collection.session);
-        QCOMPARE(collection.session.Config.MaxAuflage, 5);
-        QCOMPARE(collection.session.Config.ContentLimit, 255);
-        QCOMPARE(collection.session.Config.PictureRoot, collection.session.DataFolder);
-        QCOMPARE(collection.session.Config.ArchiveRoot, collection.session.DataFolder);
-    }
-
     // Rows as "key, value"; the shipped rows for keys 1 and 2 are removed.
     void parameters_data()
     {
@@ -77,6 +64,7 @@ private Q_SLOTS:
                                  << u"/mnt/bilder"_s << u"/media/archiv"_s;
         QTest::newRow("other keys ignored") << QStringList{u"5, '3'"_s, u"0, '3'"_s, u"NULL, '3'"_s} << 5 << 255
                                             << QString() << QString();
+        QTest::newRow("no parameter table") << QStringList() << 5 << 255 << QString() << QString();
         QTest::newRow("last row wins") << QStringList{u"1, '3'"_s, u"1, '4'"_s} << 4 << 255 << QString()
                                        << QString();
     }
@@ -88,7 +76,8 @@ private Q_SLOTS:
         QFETCH(QString, pictureRoot);
         QFETCH(QString, archiveRoot);
         TempCollection collection;
-        collection.Exec(u"DELETE FROM Parameter;"_s);
+        collection.Exec(rows.isEmpty() ? u"DROP TABLE Parameter;"_s : u"DELETE FROM Parameter;"_s);
+        collection.session.Config.MaxAuflage = 9;
         for (const QString& row : rows) {
             const QStringList parts = row.split(u", "_s);
             collection.Exec(u"INSERT INTO Parameter VALUES (%1, 'Test', %2);"_s.arg(parts[0], parts[1]));

@@ -187,6 +187,9 @@ private Q_SLOTS:
                                   << u"The field is too small to accept the amount of data you attempted to add.*"_s;
         QTest::newRow("text after end") << u"DELETE FROM HEFTLIST WHERE Nr=1; DELETE FROM Status;"_s << 3142
                                         << u"Characters found after end of SQL statement."_s;
+        QTest::newRow("one trailing semicolon and blanks") << u"UPDATE Status SET ENum=2;  \r\n"_s << 0 << QString();
+        QTest::newRow("no semicolon") << u"UPDATE Status SET ENum=2"_s << 0 << QString();
+        QTest::newRow("two semicolons") << u"UPDATE Status SET ENum=2;;"_s << 3142 << u"Characters found*"_s;
         QTest::newRow("syntax") << u"SELECT FROM WHERE;"_s << 3075 << u"Syntax error (missing operator)*"_s;
         QTest::newRow("update syntax") << u"UPDATE HEFTLIST SET WHERE Nr=1;"_s << 3144
                                        << u"Syntax error in UPDATE statement."_s;
@@ -213,34 +216,18 @@ private Q_SLOTS:
         QCOMPARE(c.Value(u"SELECT COUNT(*) FROM Status;"_s).toInt(), 1);
     }
 
-    void oneTrailingSemicolonIsFine()
-    {
-        TempCollection c;
-        QCOMPARE(c.session.CollectionDb->Execute(u"DELETE FROM Status WHERE Nr=1;  \r\n"_s).number, 0);
-        QCOMPARE(c.session.CollectionDb->Execute(u"DELETE FROM Status WHERE Nr=1"_s).number, 0);
-        QCOMPARE(c.session.CollectionDb->Execute(u"DELETE FROM Status WHERE Nr=1;;"_s).number, 3142);
-    }
-
-    void secondOpenOfTheSameFileFails()
-    {
-        TempCollection c;
-        DbError error;
-        auto second = Database::Open(c.Path(), &error);
-        QVERIFY(!second);
-        QCOMPARE(error.number, 3045);
-        // Once the first closes, the file opens again.
-        c.session.CollectionDb.reset();
-        second = Database::Open(c.Path(), &error);
-        QVERIFY(second != nullptr);
-    }
-
+    // In use by another, missing, or no database at all.
     void openFailures()
     {
-        QTemporaryDir dir;
+        TempCollection c;
         DbError error;
-        QVERIFY(!Database::Open(dir.filePath(u"fehlt.mdb"_s), &error));
+        QVERIFY(!Database::Open(c.Path(), &error));
+        QCOMPARE(error.number, 3045);
+        c.Close();
+        QVERIFY(Database::Open(c.Path(), &error) != nullptr);
+        QVERIFY(!Database::Open(c.dir.filePath(u"fehlt.mdb"_s), &error));
         QCOMPARE(error.number, 3024);
-        QFile junk(dir.filePath(u"kaputt.mdb"_s));
+        QFile junk(c.dir.filePath(u"kaputt.mdb"_s));
         QVERIFY(junk.open(QIODevice::WriteOnly));
         junk.write(QByteArray(4096, 'x'));
         junk.close();

@@ -50,20 +50,6 @@ private Q_SLOTS:
         QCOMPARE(ReadAll(log.Path()), expected);
     }
 
-    void appendsAndIgnoresFailures()
-    {
-        QTemporaryDir dir;
-        const Log log(dir.filePath(u"Heftarium.log"_s));
-        log.Write(LogInfo, u"eins"_s, QString());
-        log.Write(LogInfo, u"zwei"_s, QString());
-        QCOMPARE(ReadAll(log.Path()), "[Info]\r\neins\r\n[Info]\r\nzwei\r\n"_ba);
-
-        const Log nowhere(dir.filePath(u"fehlt/Heftarium.log"_s));
-        nowhere.Write(LogInfo, u"verloren"_s, QString());
-        QVERIFY(!QFile::exists(nowhere.Path()));
-        Log().Write(LogInfo, u"verloren"_s, QString());
-    }
-
     // The placement written at exit is read back on the next start. The
     // screen is 20000 x 15000 twips; the default is 9000 x 6000 at 100/200.
     void placement_data()

@@ -28,25 +28,14 @@ private Q_SLOTS:
         QCOMPARE(RomanToNumber(text), expected);
     }
 
-    void numberToRoman_data()
-    {
-        QTest::addColumn<int>("number");
-        QTest::addColumn<QString>("expected");
-        QTest::newRow("year") << 1990 << u"MCMXC"_s;
-        QTest::newRow("all steps") << 3999 << u"MMMCMXCIX"_s;
-        QTest::newRow("beyond 3999") << 4001 << u"MMMMI"_s;
-    }
+    // Every cycle number the series could reach survives writing and reading;
+    // the number given is used up on the way.
     void numberToRoman()
     {
-        QFETCH(int, number);
-        QFETCH(QString, expected);
-        QCOMPARE(NumberToRoman(number), expected);
-        QCOMPARE(number, 0);
-    }
-
-    // Every cycle number the series could reach survives writing and reading.
-    void roundTrip()
-    {
+        int year = 1990;
+        QCOMPARE(NumberToRoman(year), u"MCMXC"_s);
+        QCOMPARE(year, 0);
+        QCOMPARE(NumberToRoman(4001), u"MMMMI"_s);
         for (int n = 1; n <= 3999; ++n)
             QCOMPARE(RomanToNumber(NumberToRoman(int(n))), n);
     }

@@ -57,41 +57,6 @@ private Q_SLOTS:
         QCOMPARE(IsNumeric(text), expected);
     }
 
-    void formatMask_data()
-    {
-        QTest::addColumn<QString>("value");
-        QTest::addColumn<QString>("mask");
-        QTest::addColumn<QString>("expected");
-        QTest::newRow("right-aligned") << u"42"_s << u"@@@@@"_s << u"   42"_s;
-        QTest::newRow("left-aligned") << u"XII"_s << u"!@@@@@@@@@"_s << u"XII      "_s;
-        QTest::newRow("cut, right mask") << u"1234567"_s << u"@@@@@"_s << u"12345"_s;
-        QTest::newRow("literal characters") << u"ab"_s << u"[@@@]"_s << u"[ ab]"_s;
-    }
-    void formatMask()
-    {
-        QFETCH(QString, value);
-        QFETCH(QString, mask);
-        QFETCH(QString, expected);
-        QCOMPARE(FormatMask(value, mask), expected);
-    }
-
-    void positions_data()
-    {
-        QTest::addColumn<QString>("what");
-        QTest::addColumn<qsizetype>("start");
-        QTest::addColumn<qsizetype>("expected");
-        QTest::newRow("from start") << u"VN"_s << qsizetype(2) << qsizetype(6);
-        QTest::newRow("missing") << u"xy"_s << qsizetype(1) << qsizetype(0);
-        QTest::newRow("empty needle") << QString() << qsizetype(3) << qsizetype(3);
-    }
-    void positions()
-    {
-        QFETCH(QString, what);
-        QFETCH(qsizetype, start);
-        QFETCH(qsizetype, expected);
-        QCOMPARE(InStr(u"VN12-VN13"_s, what, start), expected);
-    }
-
     void arithmetic_data()
     {
         QTest::addColumn<double>("a");
@@ -113,14 +78,6 @@ private Q_SLOTS:
         QCOMPARE(Mod(a, b), remainder);
     }
 
-    void smallHelpers()
-    {
-        QCOMPARE(QuoteSql(u"D'Arcy's"_s), u"D''Arcy''s"_s);
-        QCOMPARE(StripLineBreaks(u"a\r\nb\nc\rd"_s), u"a  b c d"_s);
-        QCOMPARE(HundredsOf(2399), 23);
-        QCOMPARE(HundredsOf(99), 0);
-        QCOMPARE(HundredsOf(-150), 0);
-    }
 };
 
 HEFT_TEST(TestTextFuncs)

@@ -1,6 +1,7 @@
 #include "testmain.h"
 
 #include "exchange/datfile.h"
+#include "exchange/datformat.h"
 #include "exchange/datreader.h"
 
 #include <QFile>
@@ -241,6 +242,21 @@ private Q_SLOTS:
     {
         QFETCH(QString, line);
         QTEST(KindOfHeader(line, u"Valdorin"_s, u"Heftromane"_s), "kind");
+    }
+
+    // Dates go out in ISO form where they can be read.
+    void writtenDates_data()
+    {
+        QTest::addColumn<QString>("stored");
+        QTest::addColumn<QString>("written");
+        QTest::newRow("german") << u"8.9.1961"_s << u"1961-09-08"_s;
+        QTest::newRow("month name from the web") << u"2006-Oktober-05"_s << u"2006-10-05"_s;
+        QTest::newRow("no date stays") << u"Herbst 1962"_s << u"Herbst 1962"_s;
+    }
+    void writtenDates()
+    {
+        QFETCH(QString, stored);
+        QTEST(FormatDatDate(stored), "written");
     }
 
 private:

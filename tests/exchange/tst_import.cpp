@@ -148,29 +148,6 @@ private Q_SLOTS:
         QCOMPARE(f.list.Heftliste.Rows() - 1, 2);
     }
 
-    // A new entry in insert mode gets all nineteen attributes, the empty
-    // ones too; with all columns replaced the sum of the record before
-    // stands for a record whose insert simply worked.
-    void detailsNewEntries()
-    {
-        ImportFixture f;
-        const QStringList design{u""_s, u""_s, u""_s, u""_s, u""_s};
-        const QString line2 = DetailsFields(u"2"_s, u"2001-02-03"_s, u"U"_s, u""_s, u""_s, design) +
-                              Fields(Status19(u"1"_s)) + Fields({u"1"_s, u"L"_s, u"S"_s, u"0"_s, u"x"_s, u"y"_s});
-        f.import.ImportDatFile(f.Write(u"d.dat"_s, u"[Valdorin Details]"_s, {line2}), ImportMode::Insert);
-        QCOMPARE(f.import.Refused(), 0);
-        QCOMPARE(f.Rows(u"SELECT COUNT(*), SUM(StatusWert='') FROM Status WHERE Nr=2;"_s), u"19|17"_s);
-        QCOMPARE(f.Rows(u"SELECT ENum, LinkNum FROM Links WHERE Nr=2;"_s), u"1|1"_s);
-
-        // Entry 1 is refused (its date is too long for the column); entry 3
-        // then inserts cleanly and still reports the sum entry 1 left.
-        const QString bad = DetailsFields(u"1"_s, QString(60, u'd'), u"u"_s, u""_s, u""_s, design) + Fields({u""_s});
-        const QString fresh = DetailsFields(u"3"_s, u"d"_s, u"u"_s, u""_s, u""_s, design) + Fields({u""_s});
-        f.import.ImportDatFile(f.Write(u"d.dat"_s, u"[Valdorin Details]"_s, {bad, fresh}), ImportMode::AllColumns);
-        QCOMPARE(f.import.Refused(), 2);
-        QCOMPARE(f.Rows(u"SELECT Untertitel FROM Details WHERE Nr=3;"_s), u"u"_s);
-    }
-
     void cycleFile_data()
     {
         QTest::addColumn<int>("mode");

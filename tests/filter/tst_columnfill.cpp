@@ -2,8 +2,8 @@
 // and the collection change, the sorts survive, stamps are written, the
 // cycle is refused once, and Esc stops a fill at the next row.
 
+#include "mainwin/listfixture.h"
 #include "testmain.h"
-#include "testsupport.h"
 
 #include "filter/columnfill.h"
 #include "filter/ui/columnfilldialog.h"
@@ -26,14 +26,6 @@ using namespace heft::test;
 namespace {
 
 const QString Finished = u"Fertig und Bereit [Filter ist AKTIV]."_s;
-
-QStringList Numbers(const EntryGrid& grid)
-{
-    QStringList numbers;
-    for (int row = 1; row < grid.Rows(); ++row)
-        numbers << grid.TextMatrix(row, ColNr);
-    return numbers;
-}
 
 // The main window over `count` entries by two authors, in filter mode on
 // the odd numbers, which Ada Quell wrote. Every entry starts with values
@@ -76,14 +68,6 @@ struct FillWindow {
     MainWindow window;
 };
 
-template <typename T> T* Child(QWidget& dialog, const QString& name)
-{
-    auto* child = dialog.findChild<T*>(name);
-    if (!child)
-        qFatal("no %s", qPrintable(name));
-    return child;
-}
-
 // Chooses the target and puts the value into whichever input it shows;
 // into txt_1 it is typed, through the key filter.
 void SetValue(QWidget& dialog, const QString& label, const QString& value)
@@ -113,10 +97,8 @@ private Q_SLOTS:
         QTest::addColumn<QString>("cell");
         QTest::addColumn<QString>("column");
         QTest::addColumn<QString>("stored");
-        QTest::newRow("Auflage Keine") << u"Auflage"_s << u"Keine"_s << QString() << u"Auflage"_s << u"0"_s;
         QTest::newRow("Auflage -3-") << u"Auflage"_s << u"-3-"_s << u"3"_s << u"Auflage"_s << u"3"_s;
         QTest::newRow("Zyklus from a number") << u"Zyklus"_s << u"12"_s << u"XII"_s << u"Zyklus"_s << u"XII"_s;
-        QTest::newRow("Zyklus in small letters") << u"Zyklus"_s << u"x-iv"_s << u"XIV"_s << u"Zyklus"_s << u"XIV"_s;
         QTest::newRow("Gelesen Ja") << u"Gelesen"_s << u"Ja"_s << u"ü"_s << u"GL"_s << u"-1"_s;
         QTest::newRow("Bemerkung, quoted")
             << u"Bemerkung"_s << u"Kim's Fund %1"_s << u"Kim's Fund %1"_s << u"Bemerkung"_s << u"Kim's Fund %1"_s;
@@ -136,7 +118,7 @@ private Q_SLOTS:
         list.SortByColumn(ColAutor);
         f.EnterFilter();
         list.SortByColumn(ColTitel);
-        const QStringList filterOrder = Numbers(list.Filter);
+        const QStringList filterOrder = NrColumn(list.Filter);
         QCOMPARE(filterOrder, (QStringList{u"1"_s, u"5"_s, u"7"_s, u"3"_s}));
 
         ColumnFillDialog dialog(f.window);
@@ -146,8 +128,8 @@ private Q_SLOTS:
 
         QVERIFY(dialog.isVisible());
         QCOMPARE(f.window.StatusPanelText(5), Finished);
-        QCOMPARE(Numbers(list.Filter), filterOrder);
-        QCOMPARE(Numbers(list.Heftliste),
+        QCOMPARE(NrColumn(list.Filter), filterOrder);
+        QCOMPARE(NrColumn(list.Heftliste),
                  (QStringList{u"1"_s, u"2"_s, u"3"_s, u"4"_s, u"5"_s, u"6"_s, u"7"_s, u"8"_s}));
         QVERIFY(list.ResortOnReturn);
         const int col = FillTargetAt(Child<QComboBox>(dialog, u"cmb_choose"_s)->currentIndex()).gridColumn;
@@ -178,9 +160,6 @@ private Q_SLOTS:
                                        << u"0000010"_s;
         QTest::newRow("empty box empties") << u"Preis"_s << QString() << QString() << price << QString()
                                            << u"0000010"_s;
-        QTest::newRow("copies") << u"Exemplare"_s << u"12"_s << u"12"_s
-                                << u"SELECT StatusWert FROM Status WHERE ENum=2 AND Nr=%1;"_s << u"0000012"_s
-                                << QString();
         QTest::newRow("text trimmed") << u"Lagerort"_s << u" Regal %1 "_s << QString()
                                       << u"SELECT StatusWert FROM Status WHERE ENum=7 AND Nr=%1;"_s << u"Regal %1"_s
                                       << QString();

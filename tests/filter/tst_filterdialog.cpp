@@ -150,7 +150,6 @@ private Q_SLOTS:
         QCOMPARE(message.title, u"Keine Einträge vorhanden"_s);
         QCOMPARE(message.text, u"Zu den gegebenen Filter-Kriterien konnten\rin der Datenbank leider keine "
                                "Einträge\rgefunden werden."_s);
-        QCOMPARE(message.icon, MessageIcon::Information);
         QVERIFY(open.dialog->isVisible());
         QCOMPARE(open.Focus(), u"cmb_choose0"_s);
         QCOMPARE(open.state.FilterText, sentence);

@@ -256,26 +256,17 @@ private Q_SLOTS:
                  where + u"AND h.Nr"_s + (compare == Kleiner ? u"<"_s : u">"_s) + u"7 "_s);
     }
 
-    void refusedCycle_data()
-    {
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<QString>("shown");
-        QTest::newRow("zero") << u"0"_s << u"- - -"_s;
-    }
-
     void refusedCycle()
     {
-        QFETCH(QString, typed);
-        QFETCH(QString, shown);
         CycleCollection cycles;
         FilterGenerator generator(cycles.c.session);
         heft::FilterOutcome outcome =
-            generator.Generate({Text(2, Ist, u"Sonne"_s, 1), Text(4, Kleiner, typed)});
+            generator.Generate({Text(2, Ist, u"Sonne"_s, 1), Text(4, Kleiner, u"0"_s)});
         QVERIFY(outcome.rejected);
         QCOMPARE(outcome.rejectedRow, 1);
         QVERIFY(outcome.where.isEmpty());
         QVERIFY(outcome.sql.isEmpty());
-        QCOMPARE(outcome.shownTexts[1], shown);
+        QCOMPARE(outcome.shownTexts[1], u"- - -"_s);
         // The next press passes with the text now shown.
         outcome = generator.Generate({Text(2, Ist, u"Sonne"_s, 1), Text(4, Kleiner, outcome.shownTexts[1])});
         QVERIFY(!outcome.rejected);

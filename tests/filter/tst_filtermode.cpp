@@ -2,58 +2,22 @@
 // menu through frm_filter, ended by the same command, with the full list kept
 // as it was.
 
+#include "mainwin/listfixture.h"
 #include "testmain.h"
-#include "testsupport.h"
 
 #include "filter/ui/filtermode.h"
 #include "mainwin/ui/mainwindow.h"
 
 #include <QAction>
-#include <QApplication>
 #include <QComboBox>
-#include <QDialog>
 #include <QPushButton>
 #include <QTest>
-#include <QTimer>
 
 using namespace Qt::StringLiterals;
 using namespace heft;
 using namespace heft::test;
 
 namespace {
-
-// Runs a step on the next modal dialog of that name. A step that leaves the
-// dialog open, and any later dialog of that name, are noted and closed, so
-// that the test goes on and can tell.
-class OnModal {
-public:
-    OnModal(const QString& name, std::function<void(QDialog&)> step) : m_name(name), m_step(std::move(step))
-    {
-        m_timer.setInterval(5);
-        QObject::connect(&m_timer, &QTimer::timeout, [this] { Poll(); });
-        m_timer.start();
-    }
-    int opened = 0;
-    bool leftOpen = false;
-
-private:
-    void Poll()
-    {
-        auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-        if (!dialog || dialog->objectName() != m_name || dialog->property("seen").toBool())
-            return;
-        dialog->setProperty("seen", true);
-        if (++opened == 1) {
-            m_step(*dialog);
-            leftOpen = dialog->isVisible();
-        }
-        if (dialog->isVisible())
-            dialog->reject();
-    }
-    QString m_name;
-    std::function<void(QDialog&)> m_step;
-    QTimer m_timer;
-};
 
 // The window with its filter command, and import switched on as the
 // program has it.
@@ -76,7 +40,8 @@ struct FilterWindow {
     // The filter "Autor IST Ada Quell" through the command of that name.
     void RunFilter(const QString& command = u"filter"_s)
     {
-        OnModal run(u"frm_filter"_s, [](QDialog& dialog) {
+        ModalScript run(u"frm_filter"_s);
+        run.Then([](QDialog& dialog) {
             auto* field = dialog.findChild<QComboBox*>(u"cmb_choose0"_s);
             field->setCurrentIndex(field->findText(u"Autor"_s));
             dialog.findChild<QPushButton*>(u"btn_ausf"_s)->click();
@@ -89,14 +54,6 @@ struct FilterWindow {
     TempCollection collection;
     MainWindow window;
 };
-
-QStringList Numbers(const EntryGrid& grid)
-{
-    QStringList numbers;
-    for (int row = 1; row < grid.Rows(); ++row)
-        numbers << grid.TextMatrix(row, ColNr);
-    return numbers;
-}
 
 // The commands as filter mode leaves them: button, menu item and import.
 void CheckCommands(FilterWindow& f, bool filterOn)
@@ -134,7 +91,7 @@ private Q_SLOTS:
 
         QVERIFY(f.window.IsFilterMode());
         QVERIFY(list.Filter.Visible() && !list.Heftliste.Visible());
-        QCOMPARE(Numbers(list.Filter), (QStringList{u"1"_s, u"3"_s, u"5"_s}));
+        QCOMPARE(NrColumn(list.Filter), (QStringList{u"1"_s, u"3"_s, u"5"_s}));
         QCOMPARE(list.Filter.ColWidth(ColTitel), 4321);
         QCOMPARE(f.window.StatusPanelText(5), u"Fertig und Bereit [Filter ist AKTIV]."_s);
         CheckCommands(f, true);
@@ -191,10 +148,10 @@ private Q_SLOTS:
         QCOMPARE(list.ActiveGrid, &list.Heftliste);
         QCOMPARE(list.SortColumn, int(ColTitel));
         QVERIFY(list.SortDescending);
-        QCOMPARE(Numbers(list.Heftliste), order);
+        QCOMPARE(NrColumn(list.Heftliste), order);
         QCOMPARE(list.Heftliste.TextMatrix(list.Heftliste.Row(), ColNr), current);
         QCOMPARE(list.Heftliste.ColWidth(ColAutor), 2222);
-        QCOMPARE(Numbers(list.Filter), QStringList{QString()});
+        QCOMPARE(NrColumn(list.Filter), QStringList{QString()});
     }
 };
 

@@ -108,31 +108,6 @@ private Q_SLOTS:
         QCOMPARE(list.ActiveGrid, &list.Filter);
         QCOMPARE(Numbers(list.Filter), numbers);
     }
-
-    void nothingFound_data()
-    {
-        QTest::addColumn<FilterCriterion>("row");
-        QTest::addColumn<int>("result");
-        QTest::newRow("cycle above a gap") << Row(4, 3, u"III"_s) << 0;
-        // An empty number leaves "h.Nr= ", which the database refuses.
-        QTest::newRow("empty number") << Row(0, 0) << -1;
-    }
-
-    void nothingFound()
-    {
-        QFETCH(FilterCriterion, row);
-        QFETCH(int, result);
-        heft::test::TempCollection c;
-        Fill(c);
-        heft::EntryList list;
-        list.SortColumn = heft::ColTitel;
-        list.SortDescending = true;
-        const heft::FilterOutcome outcome = heft::FilterGenerator(c.session).Generate({row});
-        QCOMPARE(heft::RunFilterStatement(c.session, list, outcome.sql), result);
-        QCOMPARE(list.ActiveGrid, &list.Heftliste);
-        QCOMPARE(list.SortColumn, int(heft::ColTitel));
-        QVERIFY(list.SortDescending);
-    }
 };
 
 HEFT_TEST(TestFilterRun)

@@ -5,48 +5,16 @@
 #include "mainwin/ui/entryeditor.h"
 #include "mainwin/ui/mainwindow.h"
 
-#include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QRegularExpression>
 #include <QTest>
-#include <QTimer>
-
-#include <functional>
 
 using namespace Qt::StringLiterals;
 using namespace heft;
 using namespace heft::test;
 
 namespace {
-
-// Steps for the modal editor dialogs to come, one step per dialog that
-// opens, in order. A step that does not close its dialog leaves it to the
-// test to notice (EditEntry would not return).
-class EditDialogScript {
-public:
-    EditDialogScript()
-    {
-        m_timer.setInterval(5);
-        QObject::connect(&m_timer, &QTimer::timeout, [this] { Poll(); });
-        m_timer.start();
-    }
-    void Then(std::function<void(QDialog&)> step) { m_steps.append(std::move(step)); }
-    qsizetype Pending() const { return m_steps.size(); }
-
-private:
-    void Poll()
-    {
-        auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-        if (!dialog || dialog->objectName() != u"frm_edit"_s || dialog->property("scripted").toBool() || m_steps.isEmpty())
-            return;
-        dialog->setProperty("scripted", true);
-        m_steps.takeFirst()(*dialog);
-    }
-    QTimer m_timer;
-    QList<std::function<void(QDialog&)>> m_steps;
-};
 
 QLineEdit* Box(QDialog& dialog, const QString& name)
 {
@@ -169,7 +137,7 @@ private Q_SLOTS:
         QFETCH(QStringList, shown);
         QFETCH(QStringList, listed);
         Editor editor(numbers);
-        EditDialogScript script;
+        ModalScript script(u"frm_edit"_s);
         QStringList seen;
         bool detailsHidden = false;
         bool detailsEnabled = true;
@@ -199,10 +167,7 @@ private Q_SLOTS:
         QCOMPARE(editor.Current(ColTitel), u"Im Schatten von O'Taran"_s);
         QCOMPARE(editor.Current(ColGelesen), shown[6] == u"Ja"_s ? ReadMarkText() : QString());
         QCOMPARE(editor.window.List().HighestNr, listed.last().toInt());
-        const QString stamp =
-            editor.collection.Value(u"SELECT StatusWert FROM Status WHERE Nr=%1 AND ENum=1;"_s.arg(nr)).toString();
-        QVERIFY2(QRegularExpression(u"^\\d{4}-\\d\\d-\\d\\d um \\d\\d:\\d\\d:\\d\\d$"_s).match(stamp).hasMatch(),
-                 qPrintable(stamp));
+        QCOMPARE(editor.collection.Value(u"SELECT COUNT(*) FROM Status WHERE Nr=%1 AND ENum=1;"_s.arg(nr)).toInt(), 1);
     }
 
     // To a free number everything that hangs on the entry moves along; onto
@@ -226,7 +191,7 @@ private Q_SLOTS:
         AddDependents(editor.collection, 2, u"zwei"_s);
         AddDependents(editor.collection, 4, u"vier"_s);
         editor.collection.prompter.answers = {Answer::Yes};
-        EditDialogScript script;
+        ModalScript script(u"frm_edit"_s);
         script.Then([&](QDialog& dialog) {
             Type(dialog, u"txt_nr"_s, QString::number(target));
             Press(dialog, u"cmd_ok"_s);
@@ -261,7 +226,7 @@ private Q_SLOTS:
         QFETCH(QString, offeredNr);
         Editor editor({1, 2, 3, 4, 5});
         editor.collection.prompter.answers = {Answer::No};
-        EditDialogScript script;
+        ModalScript script(u"frm_edit"_s);
         script.Then([](QDialog& dialog) {
             Type(dialog, u"txt_nr"_s, u"4"_s);
             Type(dialog, u"txt_titel"_s, u"Gefahr aus dem All"_s);
@@ -334,7 +299,7 @@ private Q_SLOTS:
         QFETCH(QString, column);
         QFETCH(QString, stored);
         Editor editor({1});
-        EditDialogScript script;
+        ModalScript script(u"frm_edit"_s);
         int presses = 0;
         QString shown;
         bool refusedBoxHasFocus = false;

@@ -31,33 +31,6 @@ private:
     }
 
 private Q_SLOTS:
-    void fillFromCollection_data()
-    {
-        QTest::addColumn<int>("row");
-        QTest::addColumn<QStringList>("cells");
-        QTest::newRow("full entry, read")
-            << 0 << QStringList{u"7"_s, u"Konrad Velten"_s, u"Die Falle"_s, u"3"_s, u"IV"_s, u"ü"_s, u"Erstauflage fehlt"_s};
-        QTest::newRow("printing 0 and no remark stay empty")
-            << 1 << QStringList{u"12"_s, u"Egon Valtin"_s, u"Über den Wolken"_s, QString(), u"- - -"_s, QString(), QString()};
-        QTest::newRow("null cycle") << 2
-                                    << QStringList{u"300"_s, u"Ölaf Ürban"_s, u"D'Artagnan"_s, u"1"_s, u"? ? ?"_s, QString(), QString()};
-    }
-    void fillFromCollection()
-    {
-        QFETCH(int, row);
-        QFETCH(QStringList, cells);
-        TempCollection collection;
-        collection.Add({{7, u"Konrad Velten"_s, u"Die Falle"_s, 3, u"IV"_s, true, u"Erstauflage fehlt"_s},
-                        {300, u"Ölaf Ürban"_s, u"D'Artagnan"_s, 1},
-                        {12, u"Egon Valtin"_s, u"Über den Wolken"_s}});
-        collection.Exec(u"UPDATE HEFTLIST SET Zyklus=NULL WHERE Nr=300;"_s);
-        EntryGridModel model;
-        QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
-        QCOMPARE(FillEntryModel(*collection.session.CollectionDb, model), 3);
-        for (int col = 0; col < EntryColumnCount; ++col)
-            QCOMPARE(model.data(model.index(row, col)).toString(), cells[col]);
-    }
-
     void sort_data()
     {
         QTest::addColumn<int>("column");

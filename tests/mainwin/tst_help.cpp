@@ -93,8 +93,6 @@ private Q_SLOTS:
         window.resize(760, 640);
         window.show();
         QVERIFY(QTest::qWaitForWindowExposed(&window));
-        QCOMPARE(window.objectName(), u"frm_help"_s);
-        QCOMPARE(window.windowTitle(), u"Heftarium Hilfe"_s);
         QTextBrowser* browser = window.Browser();
         QCOMPARE(ShownPage(browser), u"index.html"_s);
         auto* back = window.findChild<QAction*>(u"btn_back"_s);

@@ -1,18 +1,11 @@
 #include "listfixture.h"
 #include "testmain.h"
 
-#include "mainwin/ui/entrygridview.h"
 #include "mainwin/ui/mainwindow.h"
-#include "mainwin/twips.h"
 
-#include <QApplication>
-#include <QHeaderView>
-#include <QLabel>
-#include <QProgressBar>
 #include <QSignalSpy>
-#include <QStatusBar>
+#include <QTableView>
 #include <QTest>
-#include <QTimer>
 
 using namespace Qt::StringLiterals;
 using namespace heft;
@@ -41,30 +34,59 @@ private Q_SLOTS:
     {
         TempCollection collection(u"Valdorin"_s, u"Taschenbücher"_s);
         collection.Add(Entries(12));
+        collection.Exec(u"UPDATE HEFTLIST SET Zyklus=NULL WHERE Nr=12;"_s);
         MainWindow window;
         window.LoadList(collection.session);
 
-        QCOMPARE(window.objectName(), u"frm_heftarium"_s);
         QCOMPARE(window.windowTitle(), u"HEFTARIUM: Valdorin (Taschenbücher)"_s);
         auto* heftliste = window.findChild<QTableView*>(u"fg_heftliste"_s);
         auto* filter = window.findChild<QTableView*>(u"fg_filter"_s);
         QVERIFY(heftliste && filter);
         QCOMPARE(heftliste->model()->rowCount(), 12);
-        QVERIFY(!heftliste->isHidden());
-        QVERIFY(filter->isHidden());
+        QVERIFY(!heftliste->isHidden() && filter->isHidden());
         QCOMPARE(window.StatusPanelText(3), u"1/12"_s);
+        QCOMPARE(window.List().Heftliste.TextMatrix(12, ColZyklus), u"? ? ?"_s); // no cycle stored
         QCOMPARE(window.StatusPanelText(5), u"Fertig und Bereit."_s);
         QCOMPARE(window.StatusPanelText(6), u"-"_s);
-        QVERIFY(window.findChild<QProgressBar*>(u"pbar_load"_s)->isHidden());
-        QCOMPARE(window.findChild<QTimer*>(u"tim_sgrid"_s)->interval(), 1000);
-        QCOMPARE(window.List().LowestNr, 1);
-        QCOMPARE(window.List().HighestNr, 12);
-        QVERIFY(!collection.session.SharedRecordset.IsOpen());
-        QCOMPARE(window.minimumSize(), QSize(TwipsToPixels(6000), TwipsToPixels(2500)));
 
         // Other windows remove entries through the session.
         collection.session.RemoveEntryRows(5);
         QCOMPARE(heftliste->model()->rowCount(), 11);
+    }
+
+    void removeEntryRows()
+    {
+        TempCollection collection;
+        collection.Add(Entries(5));
+        EntryList list;
+        LoadEntryList(collection, list, list.Heftliste);
+        collection.session.SharedRecordset =
+            collection.session.CollectionDb->Select(u"SELECT * FROM HEFTLIST WHERE Nr IN (2, 4) ORDER BY Nr;"_s);
+        list.ActiveGrid = &list.Filter;
+        list.SetupGridColumns();
+        list.FillGrid(collection.session);
+        QSignalSpy disabled(&list, &EntryList::EntryCommandsDisabled);
+
+        QCOMPARE(list.RemoveEntryRows(3), 3); // not in the filter list: nothing happens
+        QCOMPARE(NrColumn(list.Heftliste).size(), 5);
+        QCOMPARE(list.RemoveEntryRows(4), 0);
+        QCOMPARE(NrColumn(list.Filter), QStringList{u"2"_s});
+        QCOMPARE(NrColumn(list.Heftliste), (QStringList{u"1"_s, u"2"_s, u"3"_s, u"5"_s}));
+        QCOMPARE(disabled.size(), 0);
+
+        // The filter list's last entry leaves one empty row behind, and the
+        // entry commands go off.
+        QCOMPARE(list.RemoveEntryRows(2), 0);
+        QCOMPARE(list.Filter.Rows(), 2);
+        QCOMPARE(list.Filter.TextMatrix(1, ColNr), QString());
+        QVERIFY(!list.Filter.CurrentRowHoldsEntry());
+        QCOMPARE(disabled.size(), 1);
+        QCOMPARE(list.ActiveGrid, &list.Filter);
+        QCOMPARE(NrColumn(list.Heftliste), (QStringList{u"1"_s, u"3"_s, u"5"_s}));
+
+        // A new entry saved in filter mode takes the empty row.
+        list.AddGridRow(7);
+        QCOMPARE(NrColumn(list.Filter), QStringList{u"7"_s});
     }
 
 };

@@ -248,16 +248,6 @@ private Q_SLOTS:
         QVERIFY(drawing.Texts().contains(u"Seite %1 von %1"_s.arg(drawing.result)));
     }
 
-    void emptyRangeTellsAndAborts()
-    {
-        const Drawing drawing(m_collection.session, Request(PrintKind::WholeList, 3, 4));
-        QCOMPARE(drawing.result, 0);
-        QVERIFY(drawing.page.Aborted());
-        const Message told = m_collection.prompter.asked.takeLast();
-        QCOMPARE(told.title, u"Keine Einträge gefunden"_s);
-        QCOMPARE(told.text, u"Im Nummernbereich 3 bis 4 sind\r\nkeine Heftromane Einträge vorhanden."_s);
-    }
-
 private:
     TempCollection m_collection;
 };

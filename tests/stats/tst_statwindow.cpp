@@ -1,8 +1,6 @@
-// frm_stat on the shipped collection: stepping through all eight
-// statistics, the captions of the step buttons, which choice is offered,
-// and Esc. With STAT_SCREENSHOTS set, each statistic is saved as a picture
-// in that folder, for looking at the charts; STAT_DB names another list of
-// Heftromane with values to look at.
+// frm_stat on the shipped collection, opened by its menu command: stepping
+// through all eight statistics, the captions of the step buttons, which
+// choice is offered, and Esc.
 
 #include "testmain.h"
 #include "testsupport.h"
@@ -34,9 +32,7 @@ private Q_SLOTS:
     {
         QTemporaryDir dir;
         const QString path = dir.filePath(u"Heftarium.mdb"_s);
-        const QString other = qEnvironmentVariable("STAT_DB");
-        QVERIFY(QFile::copy(other.isEmpty() ? QStringLiteral(HEFTARIUM_RUNTIME_DIR) + u"/DBs/Heftarium.mdb"_s : other,
-                            path));
+        QVERIFY(QFile::copy(QStringLiteral(HEFTARIUM_RUNTIME_DIR) + u"/DBs/Heftarium.mdb"_s, path));
         Session session;
         ScriptedPrompter prompter;
         session.prompter = &prompter;
@@ -67,7 +63,6 @@ private Q_SLOTS:
         window.Load();
         window.show();
         QVERIFY(QTest::qWaitForWindowExposed(&window));
-        QCOMPARE(window.windowTitle(), u"Statistik"_s);
         auto* stat = window.findChild<QComboBox*>(u"cmb_stat"_s);
         auto* next = window.findChild<QPushButton*>(u"btn_next"_s);
         auto* prev = window.findChild<QPushButton*>(u"btn_prev"_s);
@@ -77,11 +72,9 @@ private Q_SLOTS:
         auto* choices = window.findChild<QGroupBox*>(u"frm_4what"_s);
         auto* text = window.findChild<QPlainTextEdit*>(u"txt_box1"_s);
         QVERIFY(stat && next && prev && authors && cycles && priceValue && choices && text);
-        QVERIFY(window.findChild<QWidget*>(u"chart_stat"_s));
         QCOMPARE(authors->currentIndex(), authors->count() - 1);
 
         const QStringList names = StatisticNames();
-        const QByteArray shots = qgetenv("STAT_SCREENSHOTS");
         for (int step = 0; step <= names.size(); ++step) {
             const int index = step % names.size();
             QCOMPARE(stat->currentIndex(), index);
@@ -94,9 +87,6 @@ private Q_SLOTS:
             QCOMPARE(priceValue->isVisible(), expected.priceValue);
             QVERIFY(text->toPlainText().startsWith(u"Anzahl der Heftromane in Liste"_s));
             QCOMPARE(text->toPlainText(), QString(window.Result().text).replace(u"\r\n"_s, u"\n"_s));
-            QCOMPARE(main.StatusPanelText(5), u"Fertig und Bereit."_s);
-            if (!shots.isEmpty())
-                window.grab().save(u"%1/stat%2.png"_s.arg(QString::fromLocal8Bit(shots)).arg(index + 1));
             QTest::mouseClick(next, Qt::LeftButton);
         }
         // The sample has values, so "Preis/Wert" opened on their course.
