@@ -70,8 +70,6 @@ private Q_SLOTS:
                                    "RiZeObjekt='Kreuzer ''Stella''', RiZeZeichner='Ben Asto' WHERE Nr=7;"_s);
         QCOMPARE(steps[2].Sql, u"DELETE FROM Status WHERE Nr=7"_s);
         QCOMPARE(steps[3].Sql, u"INSERT INTO Status (Nr, ENum, StatusWert) VALUES (7, 1, '2009-03-01 um 10:00:00');"_s);
-        QCOMPARE(steps[4].Sql, u"INSERT INTO Status (Nr, ENum, StatusWert) VALUES (7, 2, '');"_s);
-        QCOMPARE(steps[7].Sql, u"INSERT INTO Status (Nr, ENum, StatusWert) VALUES (7, 5, '00003.5');"_s);
         QCOMPARE(steps[21].Sql, u"INSERT INTO Status (Nr, ENum, StatusWert) VALUES (7, 19, 'Gut, aber ''zäh''');"_s);
         QCOMPARE(steps[22].Sql, u"DELETE FROM Links WHERE Nr=7"_s);
         QCOMPARE(steps[23].Sql, u"INSERT INTO Links (Nr, ENum, LinkNum, LinkText, LinkSerie) "
@@ -154,7 +152,6 @@ private Q_SLOTS:
         QTest::addColumn<QString>("shown");
         QTest::addColumn<QString>("stored");
         QTest::newRow("empty price stays empty") << 5 << u"   "_s << u""_s;
-        QTest::newRow("price with fraction") << 5 << u"3.5"_s << u"00003.5"_s;
         QTest::newRow("price with comma") << 6 << u"3,5"_s << u"00003.5"_s;
         QTest::newRow("too long loses left digits") << 6 << u"12345678"_s << u"2345678"_s;
         QTest::newRow("german lending date") << 18 << u"01.03.2009"_s << u"2009-03-01"_s;
@@ -197,10 +194,8 @@ private Q_SLOTS:
         QTest::addColumn<QString>("value");
         QTest::newRow("pasted comma") << 5 << u"3,50"_s << false << u"3.5"_s;
         QTest::newRow("leading zeros") << 2 << u"007"_s << false << u"7"_s;
-        QTest::newRow("empty number") << 5 << u"  "_s << false << u""_s;
         QTest::newRow("word as number") << 5 << u"drei"_s << true << QString();
         QTest::newRow("no date is today") << 18 << u"letzte Woche"_s << false << u"2024-05-17"_s;
-        QTest::newRow("impossible date is today") << 18 << u"31.02.2010"_s << false << u"2024-05-17"_s;
         QTest::newRow("two-digit year") << 18 << u"3.4.11"_s << false << u"2011-04-03"_s;
         QTest::newRow("1900 raised") << 18 << u"15.06.1900"_s << false << u"1901-01-01"_s;
         QTest::newRow("empty date stays empty") << 18 << u""_s << false << u""_s;

@@ -29,8 +29,6 @@ private Q_SLOTS:
         QTest::addColumn<QString>("target");  // empty: nothing copied
         QTest::addColumn<QString>("content"); // of the target afterwards
         QTest::addColumn<int>("messages");
-        QTest::newRow("cover") << u"scan.jpg"_s << u"tibi"_s << QString() << QList<Answer>() << u"tibis/7tibi.jpg"_s
-                               << u"new"_s << 1;
         QTest::newRow("upper-case extension") << u"SCAN.BMP"_s << u"rize"_s << QString() << QList<Answer>()
                                               << u"rizes/7rize.bmp"_s << u"new"_s << 1;
         QTest::newRow("gif is refused") << u"scan.gif"_s << u"tibi"_s << QString() << QList<Answer>() << QString()
@@ -94,21 +92,6 @@ private Q_SLOTS:
         QVERIFY(IllustrationPages(config, 7).isEmpty());
         QCOMPARE(IllustrationListHeight(3), 615);
         QCOMPARE(IllustrationListHeight(8), 1200);
-        QCOMPARE(IllustrationListRows(8), 6.0);
-    }
-
-    void scaling_data()
-    {
-        QTest::addColumn<QSize>("picture");
-        QTest::addColumn<QSize>("shown");
-        QTest::newRow("wide") << QSize(1440, 1000) << QSize(720, 500);
-        QTest::newRow("tall") << QSize(400, 1080) << QSize(200, 540);
-    }
-    void scaling()
-    {
-        QFETCH(QSize, picture);
-        QFETCH(QSize, shown);
-        QCOMPARE(ShownPictureSize(picture), shown);
     }
 
     void pathsStayInTheirFolder()
