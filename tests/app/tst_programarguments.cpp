@@ -21,7 +21,6 @@ private Q_SLOTS:
         QTest::addColumn<QString>("database");
         QTest::addColumn<QString>("out");
         QTest::addColumn<QString>("err");
-        QTest::newRow("nothing") << QStringList() << -1 << QString() << QString() << QString();
         QTest::newRow("name of two words") << QStringList{u"Meine"_s, u"Hefte.mdb"_s} << -1 << u"Meine Hefte.mdb"_s
                                            << QString() << QString();
         QTest::newRow("help after a name") << QStringList{u"VN-TB.mdb"_s, u"-h"_s} << 0 << QString()

@@ -66,7 +66,6 @@ private Q_SLOTS:
     {
         QTest::addColumn<QStringList>("indexPages"); // index pages laid out below the root
         QTest::addColumn<QString>("found");          // relative to the root; empty: none
-        QTest::newRow("beside the program") << QStringList{u"bin/help/index.html"_s} << u"bin/help"_s;
         QTest::newRow("the build tree comes first")
             << QStringList{u"bin/help/index.html"_s, u"share/Quintara/Heftarium/help/index.html"_s} << u"bin/help"_s;
         QTest::newRow("folder without its index page") << QStringList{u"bin/help/liste.html"_s} << QString();

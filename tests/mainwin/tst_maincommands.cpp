@@ -8,19 +8,11 @@
 #include "mainwin/twips.h"
 
 #include <QAction>
-#include <QMenu>
-#include <QMenuBar>
-#include <QScreen>
 #include <QTest>
-#include <QToolBar>
 
 using namespace Qt::StringLiterals;
 using namespace heft;
 using namespace heft::test;
-
-namespace {
-
-} // namespace
 
 class TestMainCommands : public QObject {
     Q_OBJECT
@@ -34,7 +26,6 @@ private Q_SLOTS:
         QTest::addColumn<bool>("enabled");
         QTest::newRow("delete") << u"mnu_delete"_s << true;
         QTest::newRow("details") << u"mnu_detail"_s << false;
-        QTest::newRow("print") << u"print"_s << false;
         QTest::newRow("cycles without a window") << u"zykinfo"_s << false;
     }
     void whatIsOn()
