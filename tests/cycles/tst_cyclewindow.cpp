@@ -298,11 +298,9 @@ private Q_SLOTS:
     void checks()
     {
         QFETCH(QStringList, typed);
-        QFETCH(int, refused);
-        QFETCH(QStringList, after);
         CycleRow row = Row(typed);
-        QCOMPARE(int(CheckCycleInput(row)), refused);
-        QCOMPARE(Fields(row), after);
+        QTEST(int(CheckCycleInput(row)), "refused");
+        QTEST(Fields(row), "after");
     }
 
     void statements()

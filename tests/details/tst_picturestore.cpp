@@ -33,8 +33,6 @@ private Q_SLOTS:
                                               << u"rizes/7rize.bmp"_s << u"new"_s << 1;
         QTest::newRow("gif is refused") << u"scan.gif"_s << u"tibi"_s << QString() << QList<Answer>() << QString()
                                         << QString() << 0;
-        QTest::newRow("page 7") << u"scan.jpg"_s << u"illu"_s << u"7"_s << QList<Answer>() << u"illus/7illu007.jpg"_s
-                                << u"new"_s << 1;
         QTest::newRow("page 0 ends the drop") << u"scan.jpg"_s << u"illu"_s << u"0"_s << QList<Answer>() << QString()
                                               << QString() << 0;
         QTest::newRow("overwrite agreed") << u"scan.jpg"_s << u"tibi"_s << QString() << QList<Answer>{Answer::Ok}

@@ -19,32 +19,15 @@ namespace {
 
 const QString Manual = QStringLiteral(HEFTARIUM_DATA_SOURCES) + u"/help"_s;
 
-struct Link {
-    QString href;
-    int position; // in the document
-};
-
-// Every link of the shown page, in document order.
-QList<Link> Links(const QTextDocument& document)
-{
-    QList<Link> links;
-    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
-        for (auto it = block.begin(); !it.atEnd(); ++it) {
-            const QString href = it.fragment().charFormat().anchorHref();
-            if (!href.isEmpty())
-                links.append({href, it.fragment().position()});
-        }
-    }
-    return links;
-}
-
 // Where the first link to target is shown, in the browser's viewport.
 QPoint LinkPosition(QTextBrowser* browser, const QString& target)
 {
-    for (const Link& link : Links(*browser->document())) {
-        if (link.href == target) {
+    for (QTextBlock block = browser->document()->begin(); block.isValid(); block = block.next()) {
+        for (auto it = block.begin(); !it.atEnd(); ++it) {
+            if (it.fragment().charFormat().anchorHref() != target)
+                continue;
             QTextCursor cursor(browser->document());
-            cursor.setPosition(link.position + 1);
+            cursor.setPosition(it.fragment().position() + 1);
             return browser->cursorRect(cursor).center();
         }
     }
