@@ -8,6 +8,8 @@
 #include <QPushButton>
 #include <QTest>
 
+#include <numeric>
+
 using namespace Qt::StringLiterals;
 using namespace heft;
 using namespace heft::test;
@@ -20,14 +22,6 @@ QList<TestEntry> Numbered(const QList<int>& numbers)
     for (int nr : numbers)
         entries.append({nr, u"Autor"_s, u"Titel %1"_s.arg(nr)});
     return entries;
-}
-
-QList<int> Range(int from, int to)
-{
-    QList<int> numbers;
-    for (int nr = from; nr <= to; ++nr)
-        numbers << nr;
-    return numbers;
 }
 
 void Search(GotoDialog& dialog, const QString& typed)
@@ -83,7 +77,9 @@ private Q_SLOTS:
     void foundInTheMiddle()
     {
         TempCollection collection;
-        collection.Add(Numbered(Range(1, 400)));
+        QList<int> numbers(400);
+        std::iota(numbers.begin(), numbers.end(), 1);
+        collection.Add(Numbered(numbers));
         MainWindow window;
         window.resize(900, 600);
         window.LoadList(collection.session);
