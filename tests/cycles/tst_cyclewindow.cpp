@@ -1,6 +1,5 @@
-// The cycle window and its editor on a real cycle file: the list and the
-// line shown, removing the last cycle, new and changed cycles, the cycle
-// file, and a cycle file that can't be used.
+// The cycle window and its editor on a real cycle file: the list, new and
+// changed cycles, the editor's checks and the exported cycle file.
 
 #include "testmain.h"
 #include "testsupport.h"

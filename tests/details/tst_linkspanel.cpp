@@ -25,20 +25,16 @@ namespace {
 const QString OpenList = u"Valdorin Heftromane"_s;
 const QString OtherList = u"Sternfahrer Taschenbücher"_s;
 
-// Runs action and answers each modal dialog it opens; returns how many.
-int WithDialog(const std::function<void()>& action, const std::function<void(QDialog&)>& answer)
+// Runs action and answers each modal dialog it opens.
+void WithDialog(const std::function<void()>& action, const std::function<void(QDialog&)>& answer)
 {
-    int opened = 0;
     QTimer poll;
     QObject::connect(&poll, &QTimer::timeout, [&] {
-        if (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
-            ++opened;
+        if (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget()))
             answer(*dialog);
-        }
     });
     poll.start(5);
     action();
-    return opened;
 }
 
 void Accept(QDialog& dialog)

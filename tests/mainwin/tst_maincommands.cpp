@@ -1,5 +1,4 @@
-// The main window's commands as the user meets them: menu and toolbar, what
-// is off, deleting, the hints, and the window's place from the last run.
+// The main window's commands: what is off, deleting, and the window's place.
 
 #include "testmain.h"
 #include "testsupport.h"

@@ -81,7 +81,6 @@ private Q_SLOTS:
         QCOMPARE(list.Filter.TextMatrix(1, ColNr), QString());
         QVERIFY(!list.Filter.CurrentRowHoldsEntry());
         QCOMPARE(disabled.size(), 1);
-        QCOMPARE(list.ActiveGrid, &list.Filter);
         QCOMPARE(NrColumn(list.Heftliste), (QStringList{u"1"_s, u"3"_s, u"5"_s}));
 
         // A new entry saved in filter mode takes the empty row.
