@@ -216,7 +216,6 @@ private Q_SLOTS:
         QTest::newRow("list") << u"[Valdorin Heftromane]"_s << DatKind::List;
         QTest::newRow("details") << u"[Valdorin Details]"_s << DatKind::Details;
         QTest::newRow("other list kind") << u"[Valdorin Taschenbücher]"_s << DatKind::None;
-        QTest::newRow("case matters") << u"[valdorin heftromane]"_s << DatKind::None;
         QTest::newRow("whole line") << u"[Valdorin Heftromane] "_s << DatKind::None;
     }
     void headers()
