@@ -80,8 +80,6 @@ private Q_SLOTS:
         QTest::newRow("blank remark, blank number")
             << QStringList{u"0:field=Bemerkung"_s, u"0:logic=UND"_s, u"1:field=Nr"_s} << true;
         QTest::newRow("number, blank number") << QStringList{u"0:type=12"_s, u"0:logic=ODER"_s} << false;
-        QTest::newRow("number, blank remark")
-            << QStringList{u"0:type=12"_s, u"0:logic=EXOR"_s, u"1:field=Bemerkung"_s} << false;
         QTest::newRow("number, typed number")
             << QStringList{u"0:type=12"_s, u"0:logic=ODER"_s, u"1:type=7"_s} << true;
         QTest::newRow("number, blank number, rows closed again")
