@@ -62,7 +62,6 @@ private Q_SLOTS:
         QTest::newRow("no config entry") << "[Info]\r\nFB=12000\r\nFX=300\r\n"_ba << unchanged;
         QTest::newRow("too narrow") << "[Konfig]\r\nFB=8999\r\n"_ba << unchanged;
         QTest::newRow("wider than the screen") << "[Konfig]\r\nFB=20001\r\n"_ba << unchanged;
-        QTest::newRow("height below 2500") << "[Konfig]\r\nFH=2499\r\n"_ba << unchanged;
         QTest::newRow("left keeps the new width on screen")
             << "[Konfig]\r\nFB=15000\r\nFX=5001\r\nFY=9000\r\n"_ba << QList<int>{15000, 6000, 100, 9000};
         QTest::newRow("lines before the entry are ignored")

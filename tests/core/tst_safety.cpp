@@ -42,7 +42,6 @@ private Q_SLOTS:
         QTest::addColumn<qint64>("cutTo");    // -1: keep the length
         QTest::addColumn<qint64>("noiseAt");  // -1: no garbage; in per mille of the length
         QTest::addColumn<int>("openError");   // 0: opens, and the first change finds the damage
-        QTest::newRow("leer") << 0LL << -1LL << int(JetNotADatabase);
         QTest::newRow("abgeschnitten") << 500LL << -1LL << int(JetDamaged);
         QTest::newRow("Zufallsbytes") << 0LL << 0LL << int(JetNotADatabase);
         QTest::newRow("Müll in der Mitte") << -1LL << 500LL << 0;

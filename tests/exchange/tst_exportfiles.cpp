@@ -223,14 +223,8 @@ private Q_SLOTS:
         Export e;
         e.Run(Options(u"hd"_s));
         const QStringList full = FileLines(QDir(e.target.DetailsFolder()).filePath(u"1.html"_s));
-        QCOMPARE(full.mid(3, 2), (QStringList{u"<TITLE>Heftarium HTML Export Details</TITLE></HEAD>"_s,
-                                              u"<BODY text=#000000 bgColor=#ffffff>"_s}));
-        QCOMPARE(full.mid(10, 6),
-                 (QStringList{u"<TR>"_s, u"<TD width=\"25%\"bgColor=#ffffff></TD>"_s,
-                              u"<TD bgColor=#330099><STRONG><FONT face=Verdana color=#ffff00 size=5>Detail Valdorin "
-                              "Heftromane: #1</FONT></STRONG></TD></TR>"_s,
-                              u"<TR>"_s, u"<TD bgColor=#000000 height=2></TD>"_s,
-                              u"<TD bgColor=#000000 height=2></TD></TR>"_s}));
+        QVERIFY(full.contains(u"<TD bgColor=#330099><STRONG><FONT face=Verdana color=#ffff00 size=5>Detail Valdorin "
+                              "Heftromane: #1</FONT></STRONG></TD></TR>"_s));
         QVERIFY(full.contains(u"<TD><FONT face=Verdana>Die <Flut> kommt</FONT></TD></TR>"_s));
         QVERIFY(full.contains(u"<TD><FONT face=Verdana>Valdorin Taschenbücher #3 - Finale</FONT></TD></TR>"_s));
         const qsizetype persons = full.indexOf(u"<TD bgColor=#99ccff><FONT face=Verdana size=4>Personen:</FONT></TD>"

@@ -112,8 +112,6 @@ private Q_SLOTS:
             return;
         }
         QCOMPARE(w.asked.count, 1);
-        QCOMPARE(w.asked.title, u"Bitte Export Datei angeben ..."_s);
-        QCOMPARE(w.asked.folder, QDir(w.collection.session.DataFolder).filePath(u"export"_s));
         QCOMPARE(w.asked.filter, u"Heftarium-Exportdatei (*.%1)"_s.arg(suffix));
         QCOMPARE(w.asked.suffix, suffix);
         for (const QString& file : files)
@@ -123,7 +121,6 @@ private Q_SLOTS:
         QVERIFY(Result(dialog).startsWith(u"Es wurden 3/"_s));
         QVERIFY(Result(dialog).contains(u"\n "_s + QDir::toNativeSeparators(w.Path(files.first())) + u'\n'));
         QCOMPARE(w.window.StatusPanelText(5), u"Fertig und Bereit."_s);
-        QVERIFY(dialog.isEnabled());
     }
 
     // Opened by the menu command, modal, on the filter list when a filter

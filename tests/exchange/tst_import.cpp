@@ -160,8 +160,6 @@ private Q_SLOTS:
         QTest::newRow("insert of a stored cycle")
             << 0 << Fields({u"I"_s, u"20"_s, u"29"_s, u"1990"_s, u"1991"_s, u"Doppelt"_s, u""_s})
             << u"I|1|9|1980|1981|Anfang|A"_s << 1;
-        QTest::newRow("all columns") << 1 << Fields({u"I"_s, u"2"_s, u"8"_s, u"1982"_s, u"1983"_s, u"Neu"_s, u""_s})
-                                     << u"I|2|8|1982|1983|Neu|"_s << 0;
         QTest::newRow("only imported") << 2 << Fields({u"I"_s, u""_s, u"12"_s, u""_s, u""_s, u"O'Neu"_s, u""_s})
                                        << u"I|1|12|1980|1981|O'Neu|A"_s << 0;
     }

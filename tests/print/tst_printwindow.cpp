@@ -59,8 +59,6 @@ private Q_SLOTS:
         QCOMPARE(liste->count(), 2); // no "-Filter-" without a filter list
         auto* from = f.Control<QComboBox>(u"cmb_from"_s);
         auto* to = f.Control<QComboBox>(u"cmb_to"_s);
-        QCOMPARE(from->itemText(0), u"     1"_s);
-        QCOMPARE(to->itemText(2), u"   299"_s);
         from->setCurrentIndex(2);
         QCOMPARE(to->currentIndex(), 2);
         to->setCurrentIndex(1);

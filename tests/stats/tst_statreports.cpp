@@ -212,7 +212,6 @@ private Q_SLOTS:
                                       << u"Am längsten verliehene Ausgabe   : Keine"_s << 1;
         QTest::newRow("wrapped gaps") << u"odd"_s << int(Statistic::Report) << 2
                                       << u" 2 4 6 8 10 12 14 16 18 20 22 24 26 28 30 32 34 36 38 40"_s << 3;
-        QTest::newRow("wrapped gaps 2") << u"odd"_s << int(Statistic::Report) << 3 << u"42 44 46 48"_s << 3;
         QTest::newRow("65 cycles") << u"65 cycles"_s << int(Statistic::Zyklen) << 66
                                    << u"- davon Zyklus LXV            :    1 [  1.5%]"_s << 65;
     }
