@@ -46,6 +46,22 @@ private Q_SLOTS:
         QTest::newRow("literal star in brackets") << u"a[*]c"_s << u"a*c"_s << true;
         QTest::newRow("backtracking") << u"*a*b*c"_s << u"xaxbxbxc"_s << true;
         QTest::newRow("whole text") << u"abc"_s << u"abcd"_s << false;
+        QTest::newRow("question needs a char") << u"T?tel"_s << u"Ttel"_s << false;
+        QTest::newRow("range low end") << u"[b-d]x"_s << u"bx"_s << true;
+        QTest::newRow("range high end") << u"[b-d]x"_s << u"DX"_s << true;
+        QTest::newRow("below the range") << u"[b-d]x"_s << u"ax"_s << false;
+        QTest::newRow("above the range") << u"[b-d]x"_s << u"ex"_s << false;
+        QTest::newRow("negated range end") << u"[!a-c]x"_s << u"cx"_s << false;
+        QTest::newRow("list and digit") << u"[xyz]#"_s << u"Y7"_s << true;
+        QTest::newRow("negated list") << u"[!xyz]"_s << u"y"_s << false;
+        QTest::newRow("lone exclamation mark") << u"[!]"_s << u"!"_s << true;
+        QTest::newRow("unclosed bracket is plain") << u"a[b"_s << u"a[b"_s << true;
+        QTest::newRow("unclosed bracket no list") << u"a[b"_s << u"ab"_s << false;
+        QTest::newRow("typed word, star at the end") << u"Sonne*"_s << u"Die Sonne"_s << false;
+        QTest::newRow("typed word, star at the start") << u"*Sonne"_s << u"Sonnenwind"_s << false;
+        QTest::newRow("nothing typed") << u"**"_s << QString() << true;
+        QTest::newRow("stamp of a day") << u"1975-03-12*"_s << u"1975-03-12 um 10:00:00"_s << true;
+        QTest::newRow("stamp of another day") << u"1975-03-12*"_s << u"1975-03-13 um 10:00:00"_s << false;
     }
     void jetLike()
     {
@@ -174,6 +190,15 @@ private Q_SLOTS:
         QTest::newRow("table exists") << u"CREATE TABLE Status (Nr LONG);"_s << 3010
                                       << u"Table 'Status' already exists."_s;
         QTest::newRow("no table") << u"SELECT * FROM Fehlt;"_s << 3078 << u"*'Fehlt'*"_s;
+        QTest::newRow("null yes/no") << u"UPDATE HEFTLIST SET GL=NULL;"_s << 3314 << u"*'HEFTLIST.GL'*"_s;
+        QTest::newRow("stray apostrophe") << u"INSERT INTO Status VALUES (1, 4, 'Kim's');"_s << 3134
+                                          << u"Syntax error in INSERT INTO statement."_s;
+        QTest::newRow("no column") << u"UPDATE HEFTLIST SET Fehlt=1;"_s << 3061 << u"Too few parameters*"_s;
+        QTest::newRow("index exists") << u"CREATE INDEX INS1 ON Status (Nr);"_s << 3375
+                                      << u"An index named 'INS1' already exists."_s;
+        QTest::newRow("mismatch") << u"SELECT Nr FROM HEFTLIST LIMIT 'x';"_s << 3464
+                                  << u"Data type mismatch in criteria expression."_s;
+        QTest::newRow("no statement") << u" ;"_s << 3129 << u"Invalid SQL statement; expected 'DELETE'*"_s;
     }
     void errorNumbers()
     {

@@ -12,6 +12,9 @@
 #include <QDir>
 #include <QTest>
 
+#include <csignal>
+#include <sys/resource.h>
+
 using namespace Qt::StringLiterals;
 using namespace heft;
 
@@ -86,6 +89,8 @@ private Q_SLOTS:
         // A medium that only reads (root writes through file permissions).
         QTest::newRow("nur lesbar") << u"PRAGMA query_only=1;"_s << int(JetReadOnly);
         QTest::newRow("Ordner weg") << QString() << int(JetPathGone);
+        // The file may not grow: the write fails as on a failing medium.
+        QTest::newRow("Schreibfehler") << u"RLIMIT_FSIZE"_s << int(JetDiskError);
     }
     void lostChange()
     {
@@ -99,11 +104,19 @@ private Q_SLOTS:
         c.Exec(u"INSERT INTO Details (Nr, Inhalt) VALUES (1, 'Inhalt');"_s);
         RenumberInUnit(c.session, 1, 2); // the day's check and backup happen here
         const QString moved = c.dir.path() + u"-weg"_s;
+        rlimit sizeLimit{};
+        getrlimit(RLIMIT_FSIZE, &sizeLimit);
+        const rlimit unlimited = sizeLimit;
         if (folderGone)
             QVERIFY(QDir().rename(c.dir.path(), moved));
-        else
+        else if (cause == u"RLIMIT_FSIZE") {
+            signal(SIGXFSZ, SIG_IGN);
+            sizeLimit.rlim_cur = rlim_t(QFileInfo(c.Path() + u"-wal"_s).size());
+            setrlimit(RLIMIT_FSIZE, &sizeLimit);
+        } else
             c.Exec(QString(cause).replace(u"%1"_s, c.Value(u"PRAGMA page_count;"_s).toString()));
         RenumberInUnit(c.session, 2, 3);
+        setrlimit(RLIMIT_FSIZE, &unlimited);
         if (folderGone)
             QVERIFY(QDir().rename(moved, c.dir.path()));
         QCOMPARE(c.prompter.asked.size(), 1);
