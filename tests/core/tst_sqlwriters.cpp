@@ -105,7 +105,6 @@ private Q_SLOTS:
         QTest::addColumn<bool>("quiet");
         QTest::newRow("import") << u"Daten Import"_s << true;
         QTest::newRow("import with more") << u"Daten Import ..."_s << false;
-        QTest::newRow("main window") << u"HEFTARIUM: Valdorin (Heftromane)"_s << false;
     }
     void batchWindowsKeepQuiet()
     {
