@@ -75,7 +75,6 @@ private Q_SLOTS:
         QCOMPARE(Mod(a, b), remainder);
     }
 
-
     void romanToNumber_data()
     {
         QTest::addColumn<QString>("text");

@@ -66,7 +66,6 @@ struct OpenDialog {
     std::optional<FilterDialog> dialog;
 };
 
-
 // The window with its filter command, and import switched on as the
 // program has it.
 struct FilterWindow {

@@ -127,7 +127,7 @@ PrintRequest Request(PrintKind kind, int from, int to, MatrixOptions options = {
     return request;
 }
 
-
+// The print window as its menu command opens it over the main window.
 struct Fixture {
     TempCollection collection;
     MainWindow main;
@@ -279,7 +279,6 @@ private Q_SLOTS:
         QVERIFY(linesPerPage[drawing.result] > 0);
         QVERIFY(drawing.Texts().contains(u"Seite %1 von %1"_s.arg(drawing.result)));
     }
-
 
     void controlsFollowTheChoice()
     {

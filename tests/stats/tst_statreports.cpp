@@ -71,7 +71,6 @@ QStringList RowTexts(const ChartData& chart)
     return texts;
 }
 
-
 // Every statistic in turn through the step buttons, with the choices each
 // offers; Esc closes the window.
 void StepThrough(StatWindow& window)
