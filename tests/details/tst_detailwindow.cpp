@@ -163,6 +163,9 @@ private Q_SLOTS:
         QFETCH(QString, column);
         QFETCH(QString, stored);
         Fixture f;
+        // What the file held already must come back unchanged.
+        f.collection.Exec(u"INSERT INTO Details (Nr, Ersterscheinung, Untertitel, Person1) VALUES (4, '01.03.2009', 'Erbe', 'Kapitän Lorn');"_s);
+        f.collection.Exec(u"INSERT INTO Gestaltung (Nr, TiBiZeichner, RZ) VALUES (4, 'Jo O''Kell', 0);"_s);
         const auto w = f.Open(4, true);
         if (control == u"cmb_floatP"_s) {
             DoubleClickPerson(*w, 2);
@@ -182,6 +185,9 @@ private Q_SLOTS:
         const QStringList table = column.split(u'.');
         QCOMPARE(f.Value(u"SELECT %1 FROM %2 WHERE Nr=4;"_s.arg(table[1], table[0])).toString(), stored);
         QCOMPARE(f.Value(u"SELECT RZ FROM Gestaltung WHERE Nr=4;"_s).toInt(), table[1].startsWith(u"RiZe"_s) ? -1 : 0);
+        QCOMPARE(f.Value(u"SELECT Ersterscheinung || Untertitel || Person1 || TiBiZeichner FROM Details JOIN Gestaltung "
+                         "USING (Nr) WHERE Nr=4;"_s),
+                 u"01.03.2009ErbeKapitän LornJo O'Kell"_s);
         QVERIFY(f.collection.prompter.asked.isEmpty());
     }
 
