@@ -68,8 +68,11 @@ private Q_SLOTS:
         QTest::addColumn<QString>("typed");
         QTest::addColumn<QString>("shown");
         QTest::addColumn<QString>("stored");
-        QTest::newRow("comma refused in the price") << 5 << u"4,5"_s << u"45"_s << u"0000045"_s;
-        QTest::newRow("old lending date") << 18 << u"1.2.1899"_s << u"1901-01-01"_s << u"1901-01-01"_s;
+        QTest::addColumn<QStringList>("offered"); // by the combo box; empty: a text box
+        QTest::newRow("comma refused in the price") << 5 << u"4,5"_s << u"45"_s << u"0000045"_s << QStringList();
+        QTest::newRow("old lending date") << 18 << u"1.2.1899"_s << u"1901-01-01"_s << u"1901-01-01"_s << QStringList();
+        QTest::newRow("condition from the used ones") << 3 << u"neu "_s << u"neu"_s << u"neu"_s
+                                                      << QStringList{u"mäßig"_s, u"gut"_s, u"sehr gut"_s};
     }
     void typeAndEnter()
     {
@@ -77,19 +80,26 @@ private Q_SLOTS:
         QFETCH(QString, typed);
         QFETCH(QString, shown);
         QFETCH(QString, stored);
+        QFETCH(QStringList, offered);
         Fixture f;
         QSignalSpy changed(f.panel, &StatusPanel::Changed);
         f.OpenWithEnter(enumber);
-        QVERIFY(!f.text->isHidden() && f.combo->isHidden());
+        QWidget* editor = offered.isEmpty() ? static_cast<QWidget*>(f.text) : f.combo;
+        QVERIFY(!editor->isHidden() && f.text->isHidden() != f.combo->isHidden());
+        QStringList items;
+        for (int index = 0; index < f.combo->count(); ++index)
+            items << f.combo->itemText(index);
+        QCOMPARE(items, offered);
         QVERIFY(f.Row(enumber)->font(1).bold());
         // The box lies over the row's value cell.
-        const QRect box(f.list->viewport()->mapFrom(f.text->parentWidget(), f.text->pos()), f.text->size());
+        const QRect box(f.list->viewport()->mapFrom(editor->parentWidget(), editor->pos()), editor->size());
         QVERIFY(box.contains(f.list->visualItemRect(f.Row(enumber)).topLeft() + QPoint(4, 4)));
         QVERIFY(box.right() < f.list->columnWidth(0));
 
-        f.text->clear();
-        QTest::keyClicks(f.text, typed);
-        QTest::keyClick(f.text, Qt::Key_Return);
+        QLineEdit* typing = offered.isEmpty() ? f.text : f.combo->lineEdit();
+        typing->clear();
+        QTest::keyClicks(typing, typed);
+        QTest::keyClick(typing, Qt::Key_Return);
         QVERIFY(!f.panel->IsEditorOpen());
         QCOMPARE(f.Shown(enumber), shown);
         QCOMPARE(f.panel->StoredValue(enumber), stored);
