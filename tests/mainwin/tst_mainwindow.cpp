@@ -3,6 +3,7 @@
 
 #include "mainwin/ui/mainwindow.h"
 
+#include <QHeaderView>
 #include <QSignalSpy>
 #include <QTableView>
 #include <QTest>
@@ -48,6 +49,17 @@ private Q_SLOTS:
         QCOMPARE(window.List().Heftliste.TextMatrix(12, ColZyklus), u"? ? ?"_s); // no cycle stored
         QCOMPARE(window.StatusPanelText(5), u"Fertig und Bereit."_s);
         QCOMPARE(window.StatusPanelText(6), u"-"_s);
+
+        // A double click on a column's right border fits the column to its
+        // widest text.
+        const EntryGrid& grid = window.List().Heftliste;
+        int border = 0;
+        for (int col = ColNr; col <= ColTitel; ++col)
+            border += grid.ColPixelWidth(col);
+        QTest::mouseDClick(heftliste->horizontalHeader()->viewport(), Qt::LeftButton, {}, QPoint(border, 4));
+        const int widest = QFontMetrics(grid.Font()).horizontalAdvance(u"Die Rückkehr des Wanderers, Teil 12"_s) + 8;
+        QVERIFY2(qAbs(grid.ColPixelWidth(ColTitel) - widest) <= 1,
+                 qPrintable(QString::number(grid.ColPixelWidth(ColTitel))));
 
         // Other windows remove entries through the session.
         collection.session.RemoveEntryRows(5);
