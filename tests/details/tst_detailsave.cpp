@@ -3,7 +3,6 @@
 
 #include "details/attributecatalog.h"
 #include "details/detailsave.h"
-#include "details/erstdatum.h"
 
 #include <QRegularExpression>
 #include <QTest>
@@ -110,25 +109,6 @@ private Q_SLOTS:
                  u"1:8:Teil 2 von 2|2:3:Vorgeschichte 'Aufbruch'"_s);
         QCOMPARE(text(u"SELECT GROUP_CONCAT(StatusWert) FROM Status WHERE Nr=8;"_s), u"fremd"_s);
         QVERIFY(collection.prompter.asked.isEmpty());
-    }
-
-    void suggestedDate_data()
-    {
-        QTest::addColumn<QString>("previous"); // null: the previous entry has no Details row
-        QTest::addColumn<QDate>("expected");
-        const QDate today(2024, 5, 17);
-        QTest::newRow("a week after the previous issue") << u"01.03.2009"_s << QDate(2009, 3, 8);
-        QTest::newRow("imported ISO form") << u"2009-12-28"_s << QDate(2010, 1, 4);
-        QTest::newRow("marker means unknown") << u"31.12.1900"_s << today;
-        QTest::newRow("no previous details") << QString() << today;
-    }
-    void suggestedDate()
-    {
-        QFETCH(QString, previous);
-        TempCollection collection;
-        if (!previous.isNull())
-            collection.Exec(u"INSERT INTO Details (Nr, Ersterscheinung) VALUES (41, '%1');"_s.arg(previous));
-        QTEST(SuggestedErstdatum(collection.session, 42, QDate(2024, 5, 17)), "expected");
     }
 
     // An attribute as the status list shows it and as the file keeps it.

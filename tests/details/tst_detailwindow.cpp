@@ -121,6 +121,8 @@ private Q_SLOTS:
         QTest::addColumn<QString>("previous"); // Ersterscheinung of entry 2; null: no row
         QTest::addColumn<QDate>("expected");
         QTest::newRow("edit, previous dated") << true << u"01.03.2009"_s << QDate(2009, 3, 8);
+        QTest::newRow("edit, previous imported") << true << u"2009-12-28"_s << QDate(2010, 1, 4);
+        QTest::newRow("view, previous unknown") << false << u"31.12.1900"_s << QDate::currentDate();
         QTest::newRow("view, no previous") << false << QString() << QDate::currentDate();
     }
     void entryWithoutDetails()
