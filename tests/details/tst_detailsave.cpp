@@ -127,23 +127,6 @@ private Q_SLOTS:
         QTEST(StoredStatusValue(enumber, shown), "stored");
     }
 
-    // The tests run with the German locale: a number still shows a point.
-    void display_data()
-    {
-        QTest::addColumn<int>("enumber");
-        QTest::addColumn<QString>("stored");
-        QTest::addColumn<QString>("shown");
-        QTest::newRow("stored comma") << 6 << u"0003,50"_s << u"3.5"_s;
-        QTest::newRow("trailing text ignored") << 10 << u"0000096 S."_s << u"96"_s;
-        QTest::newRow("text attribute as stored") << 4 << u"0000120"_s << u"0000120"_s;
-    }
-    void display()
-    {
-        QFETCH(int, enumber);
-        QFETCH(QString, stored);
-        QTEST(DisplayStatusValue(enumber, stored), "shown");
-    }
-
     void validate_data()
     {
         QTest::addColumn<int>("enumber");

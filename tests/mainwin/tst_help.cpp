@@ -52,7 +52,6 @@ private Q_SLOTS:
         QTest::newRow("the build tree comes first")
             << QStringList{u"bin/help/index.html"_s, u"share/Quintara/Heftarium/help/index.html"_s} << u"bin/help"_s;
         QTest::newRow("folder without its index page") << QStringList{u"bin/help/liste.html"_s} << QString();
-        QTest::newRow("no manual") << QStringList{} << QString();
     }
     void findHelpFolder()
     {
