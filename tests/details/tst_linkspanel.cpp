@@ -23,11 +23,6 @@ namespace {
 const QString OpenList = u"Valdorin Heftromane"_s;
 const QString OtherList = u"Sternfahrer Taschenbücher"_s;
 
-void Accept(QDialog& dialog)
-{
-    dialog.findChild<QPushButton*>(u"btn_ok"_s)->click();
-}
-
 // Entries 1 to 20 in the main list, entry 5 current, with the given links.
 struct Fixture {
     explicit Fixture(const QList<LinkRow>& links, bool edit = true)
@@ -83,7 +78,7 @@ private Q_SLOTS:
         script.Then([](QDialog& dialog) {
             QCOMPARE(dialog.findChild<QLineEdit*>(u"txt_nr"_s)->text(), u"99"_s);
             dialog.findChild<QLineEdit*>(u"txt_serie"_s)->setText(OtherList);
-            Accept(dialog);
+            dialog.findChild<QPushButton*>(u"btn_ok"_s)->click();
         });
         f.Button(u"btn_edit"_s)->click();
         QCOMPARE(f.panel->Links()[2].series, OtherList);
@@ -94,7 +89,7 @@ private Q_SLOTS:
         // hands the selection on.
         script.Then([](QDialog& dialog) {
             QCOMPARE(dialog.findChild<QLineEdit*>(u"txt_nr"_s)->text(), u"13"_s);
-            Accept(dialog);
+            dialog.findChild<QPushButton*>(u"btn_ok"_s)->click();
         });
         f.Button(u"btn_neu"_s)->click();
         QTest::mouseClick(f.list->header()->viewport(), Qt::LeftButton, {}, QPoint(5, 5));

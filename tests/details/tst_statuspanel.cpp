@@ -42,11 +42,6 @@ struct Fixture {
     }
     QTreeWidgetItem* Row(int enumber) const { return list->topLevelItem(enumber - 1); }
     QString Shown(int enumber) const { return Row(enumber)->text(0); }
-    void OpenWithEnter(int enumber) const
-    {
-        list->setCurrentItem(Row(enumber));
-        QTest::keyClick(list, Qt::Key_Return);
-    }
     TempCollection collection;
     QDialog window; // stands in for the detail window, to see where Esc goes
     StatusPanel* panel = nullptr;
@@ -86,7 +81,8 @@ private Q_SLOTS:
         // The tests run with the German locale: a number still shows a point.
         QCOMPARE(f.Shown(5), u"3.5"_s);
         QSignalSpy changed(f.panel, &StatusPanel::Changed);
-        f.OpenWithEnter(enumber);
+        f.list->setCurrentItem(f.Row(enumber));
+        QTest::keyClick(f.list, Qt::Key_Return);
         QWidget* editor = offered.isEmpty() ? static_cast<QWidget*>(f.text) : f.combo;
         QVERIFY(!editor->isHidden() && f.text->isHidden() != f.combo->isHidden());
         QStringList items;

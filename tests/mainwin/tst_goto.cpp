@@ -15,14 +15,6 @@ using namespace heft::test;
 
 namespace {
 
-QList<TestEntry> Numbered(const QList<int>& numbers)
-{
-    QList<TestEntry> entries;
-    for (int nr : numbers)
-        entries.append({nr, u"Autor"_s, u"Titel %1"_s.arg(nr)});
-    return entries;
-}
-
 void Search(GotoDialog& dialog, const QString& typed)
 {
     auto* box = dialog.findChild<QLineEdit*>(u"txt_nr"_s);
@@ -57,7 +49,8 @@ private Q_SLOTS:
         QFETCH(QString, text);
         QFETCH(int, row);
         TempCollection collection;
-        collection.Add(Numbered({3, 4, 5, 8, 9, 10}));
+        for (int nr : {3, 4, 5, 8, 9, 10})
+            collection.Add({{nr, u"Autor"_s, u"Titel %1"_s.arg(nr)}});
         MainWindow window;
         window.LoadList(collection.session);
         window.List().FindAndShowRow(4);
