@@ -17,7 +17,6 @@
 #include <QPushButton>
 #include <QTabWidget>
 #include <QTest>
-#include <QTimer>
 #include <QTreeWidget>
 
 #include <memory>
@@ -227,41 +226,33 @@ private Q_SLOTS:
             QCOMPARE(f.Count(table, 3), 0);
     }
 
+    // Straight from the menu, or from the editor's "Detailinfo ..." button.
     void openedFromMainWindow_data()
     {
         QTest::addColumn<QString>("command");
-        QTest::addColumn<bool>("viaEditor"); // the editor's "Detailinfo ..." button
-        QTest::newRow("Detail Bearbeiten") << u"mnu_detail_b"_s << false;
-        QTest::newRow("editor's button") << u"mnu_edit"_s << true;
+        QTest::newRow("Detail Bearbeiten") << u"mnu_detail_b"_s;
+        QTest::newRow("editor's button") << u"mnu_edit"_s;
     }
     void openedFromMainWindow()
     {
         QFETCH(QString, command);
-        QFETCH(bool, viaEditor);
         Fixture f;
         InstallDetailWindow(f.window);
         f.window.List().FindAndShowRow(2);
-        QString caption;
-        bool saveShown = false;
-        const auto lookAndClose = [&] {
-            QWidget* modal = QApplication::activeModalWidget();
-            QVERIFY(modal != nullptr);
-            caption = modal->windowTitle();
-            saveShown = Child<QPushButton>(*modal, u"btn_ok"_s)->isVisible();
-            QTest::keyClick(modal, Qt::Key_Escape);
-        };
-        QTimer::singleShot(0, [&] {
-            if (!viaEditor)
-                return lookAndClose();
-            QWidget* editor = QApplication::activeModalWidget();
-            QTimer::singleShot(0, lookAndClose);
-            Click(*editor, u"btn_details"_s);
-            Click(*editor, u"cmd_nok"_s);
+        ModalScript details(u"frm_detail"_s);
+        details.Then([](QDialog& window) {
+            QCOMPARE(window.windowTitle(), u"Detailinfo [#2]"_s);
+            QVERIFY(Child<QPushButton>(window, u"btn_ok"_s)->isVisible());
+            QTest::keyClick(&window, Qt::Key_Escape);
+        });
+        ModalScript editor(u"frm_edit"_s);
+        editor.Then([](QDialog& dialog) {
+            Click(dialog, u"btn_details"_s);
+            Click(dialog, u"cmd_nok"_s);
         });
         QVERIFY(f.window.IsCommandEnabled(command));
         f.window.Command(command)->trigger();
-        QCOMPARE(caption, u"Detailinfo [#2]"_s);
-        QVERIFY(saveShown);
+        QVERIFY(details.opened == 1 && !details.leftOpen && !editor.leftOpen);
     }
 
 };

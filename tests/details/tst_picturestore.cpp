@@ -76,12 +76,10 @@ private Q_SLOTS:
 
     void illustrationListTakesOneExtension()
     {
-        QTemporaryDir root;
-        Configuration config;
-        config.SeriesName = u"Valdorin"_s;
-        config.ListKind = u"Heftromane"_s;
-        config.PictureRoot = root.path();
-        const QString folder = root.filePath(u"illus/Valdorin (Heftromane)/"_s);
+        TempCollection collection;
+        Configuration& config = collection.session.Config;
+        config.PictureRoot = collection.dir.path();
+        const QString folder = collection.dir.filePath(u"illus/Valdorin (Heftromane)/"_s);
         for (const QString& name : {u"5illu002.bmp"_s, u"5illu009.jpg"_s, u"5illu010.bmp"_s, u"5illu011.bmp"_s,
                                     u"15illu001.jpg"_s, u"6illu001.gif"_s, u"6illu004.GIF"_s})
             WriteFile(folder + name);
