@@ -2,6 +2,7 @@
 // the command-line name, and the failures that end or don't end the program.
 
 #include "testmain.h"
+#include "testsupport.h"
 
 #include "app/datafolder.h"
 #include "app/startup.h"
@@ -21,7 +22,6 @@ namespace {
 void MakeAllUsersFolder(const QString& root)
 {
     QDir().mkpath(root + u"/DBs"_s);
-    QDir().mkpath(root + u"/bm"_s);
     DbError error;
     for (const char16_t* file : {u"Heftarium.mdb", u"VN-HR.mdb", u"VN-TB.mdb"}) {
         auto db = CreateCollectionFile(root + u"/DBs/"_s + QStringView(file), u"Valdorin"_s,
@@ -31,11 +31,8 @@ void MakeAllUsersFolder(const QString& root)
         db->Execute(u"INSERT INTO HEFTLIST VALUES (1, 'A', '%1', 0, 'I', 0, '');"_s.arg(QStringView(file)));
     }
     QVERIFY(CreateCycleFile(root + u"/DBs/Valdorin Zyklus.mdb"_s, &error));
-    for (const char16_t* file : {u"bm/Logo.svg", u"bm/Splash.svg", u"DBs/Heftarium.marker"}) {
-        QFile f(root + u'/' + QStringView(file));
-        QVERIFY(f.open(QIODevice::WriteOnly));
-        f.write("x");
-    }
+    for (const char16_t* file : {u"bm/Logo.svg", u"bm/Splash.svg", u"DBs/Heftarium.marker"})
+        heft::test::WriteFile(root + u'/' + QStringView(file));
 }
 
 QStringList ReadLog(const QString& path)
