@@ -53,12 +53,11 @@ void Press(QDialog& dialog, const QString& button)
 // Every table that hangs on an entry, with one row each for nr.
 void AddDependents(TempCollection& collection, int nr, const QString& mark)
 {
-    collection.Exec(u"INSERT INTO Details (Nr, Untertitel) VALUES (%1, '%2');"_s.arg(nr).arg(mark));
-    collection.Exec(u"INSERT INTO Gestaltung (Nr, TiBiZeichner) VALUES (%1, '%2');"_s.arg(nr).arg(mark));
-    collection.Exec(u"INSERT INTO Status (Nr, ENum, StatusWert) VALUES (%1, 7, '%2');"_s.arg(nr).arg(mark));
-    collection.Exec(u"INSERT INTO Links (Nr, ENum, LinkNum, LinkText, LinkSerie) VALUES (%1, 1, 3, '%2', 'VN');"_s
-                        .arg(nr)
-                        .arg(mark));
+    for (const QString& sql : {u"INSERT INTO Details (Nr, Untertitel) VALUES (%1, '%2');"_s,
+                               u"INSERT INTO Gestaltung (Nr, TiBiZeichner) VALUES (%1, '%2');"_s,
+                               u"INSERT INTO Status (Nr, ENum, StatusWert) VALUES (%1, 7, '%2');"_s,
+                               u"INSERT INTO Links (Nr, ENum, LinkNum, LinkText, LinkSerie) VALUES (%1, 1, 3, '%2', 'VN');"_s})
+        collection.Exec(sql.arg(nr).arg(mark));
 }
 
 // The marks of the dependent rows of nr, table by table ("" where none).

@@ -1,11 +1,11 @@
 #include "testmain.h"
+#include "testsupport.h"
 
 #include "mainwin/ui/helpwindow.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTextBlock>
@@ -54,11 +54,8 @@ private Q_SLOTS:
         QFETCH(QString, found);
         QTemporaryDir root;
         QDir(root.path()).mkpath(u"bin"_s);
-        for (const QString& page : indexPages) {
-            QDir(root.path()).mkpath(QFileInfo(page).path());
-            QFile file(root.filePath(page));
-            QVERIFY(file.open(QIODevice::WriteOnly));
-        }
+        for (const QString& page : indexPages)
+            heft::test::WriteFile(root.filePath(page));
         QCOMPARE(FindHelpFolder(root.filePath(u"bin"_s)), found.isEmpty() ? QString() : root.filePath(found));
     }
 
