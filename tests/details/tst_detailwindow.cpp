@@ -92,14 +92,6 @@ void TypeInto(QWidget& window, const QString& name, const QString& text)
 
 void Click(QWidget& window, const QString& name) { QTest::mouseClick(Child<QWidget>(window, name), Qt::LeftButton); }
 
-void Save(QWidget& window)
-{
-    QPushButton* save = Child<QPushButton>(window, u"btn_ok"_s);
-    QVERIFY(save->isEnabled());
-    save->click();
-    QVERIFY(!save->isEnabled());
-}
-
 } // namespace
 
 class TestDetailWindow : public QObject {
@@ -174,7 +166,10 @@ private Q_SLOTS:
         } else {
             TypeInto(*w, control, typed);
         }
-        Save(*w);
+        QPushButton* save = Child<QPushButton>(*w, u"btn_ok"_s);
+        QVERIFY(save->isEnabled());
+        save->click();
+        QVERIFY(!save->isEnabled());
         const QStringList table = column.split(u'.');
         QCOMPARE(f.Value(u"SELECT %1 FROM %2 WHERE Nr=4;"_s.arg(table[1], table[0])).toString(), stored);
         QCOMPARE(f.Value(u"SELECT RZ FROM Gestaltung WHERE Nr=4;"_s).toInt(), table[1].startsWith(u"RiZe"_s) ? -1 : 0);
