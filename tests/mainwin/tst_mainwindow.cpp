@@ -38,9 +38,8 @@ private Q_SLOTS:
         window.LoadList(collection.session);
 
         QCOMPARE(window.windowTitle(), u"HEFTARIUM: Valdorin (Taschenbücher)"_s);
-        auto* heftliste = window.findChild<QTableView*>(u"fg_heftliste"_s);
-        auto* filter = window.findChild<QTableView*>(u"fg_filter"_s);
-        QVERIFY(heftliste && filter);
+        auto* heftliste = Child<QTableView>(window, u"fg_heftliste"_s);
+        auto* filter = Child<QTableView>(window, u"fg_filter"_s);
         QCOMPARE(heftliste->model()->rowCount(), 12);
         QVERIFY(!heftliste->isHidden() && filter->isHidden());
         QCOMPARE(window.StatusPanelText(3), u"1/12"_s);
