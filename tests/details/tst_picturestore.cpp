@@ -79,6 +79,7 @@ private Q_SLOTS:
             WriteFile(folder + name);
         QCOMPARE(IllustrationPages(config, 5), QStringList{u"009"_s});
         QCOMPARE(IllustrationPages(config, 6), (QStringList{u"001"_s, u"004"_s}));
+        QVERIFY(IllustrationPages(config, 7).isEmpty());
         QCOMPARE(IllustrationListHeight(3), 615);
         QCOMPARE(IllustrationListHeight(8), 1200);
     }
