@@ -2,6 +2,7 @@
 // the command-line name, and the failures that end or don't end the program.
 
 #include "testmain.h"
+#include "testsupport.h"
 
 #include "app/datafolder.h"
 #include "app/startup.h"
@@ -21,7 +22,6 @@ namespace {
 void MakeAllUsersFolder(const QString& root)
 {
     QDir().mkpath(root + u"/DBs"_s);
-    QDir().mkpath(root + u"/bm"_s);
     DbError error;
     for (const char16_t* file : {u"Heftarium.mdb", u"VN-HR.mdb", u"VN-TB.mdb"}) {
         auto db = CreateCollectionFile(root + u"/DBs/"_s + QStringView(file), u"Valdorin"_s,
@@ -31,11 +31,8 @@ void MakeAllUsersFolder(const QString& root)
         db->Execute(u"INSERT INTO HEFTLIST VALUES (1, 'A', '%1', 0, 'I', 0, '');"_s.arg(QStringView(file)));
     }
     QVERIFY(CreateCycleFile(root + u"/DBs/Valdorin Zyklus.mdb"_s, &error));
-    for (const char16_t* file : {u"bm/Logo.svg", u"bm/Splash.svg", u"DBs/Heftarium.marker"}) {
-        QFile f(root + u'/' + QStringView(file));
-        QVERIFY(f.open(QIODevice::WriteOnly));
-        f.write("x");
-    }
+    for (const char16_t* file : {u"bm/Logo.svg", u"bm/Splash.svg", u"DBs/Heftarium.marker"})
+        heft::test::WriteFile(root + u'/' + QStringView(file));
 }
 
 QStringList ReadLog(const QString& path)
@@ -100,18 +97,44 @@ private Q_SLOTS:
         QVERIFY(prompter.asked.isEmpty());
     }
 
-    void missingConfigurationEndsTheProgram()
+    // A file that can't be used ends the run with a message naming it (%1:
+    // the file); a missing cycle file is only logged.
+    void failures_data()
     {
-        DbError error;
-        const QString path = m_root.filePath(u"OhneKonfig.mdb"_s);
-        auto db = CreateCollectionFile(path, u"X"_s, u"Y"_s, &error);
-        QVERIFY(db);
-        db->Execute(u"DROP TABLE KONFIGURATION;"_s);
-        db.reset();
+        QTest::addColumn<QString>("damage"); // SQL run on the named file; null: no file at all
+        QTest::addColumn<bool>("started");
+        QTest::addColumn<QString>("told");
+        QTest::addColumn<QString>("logged");
+        QTest::newRow("no configuration") << u"DROP TABLE KONFIGURATION;"_s << false << u"'Konfigurations'"_s
+                                          << u"Fehler beim Öffnen der Konfigurations Tabelle: "_s;
+        QTest::newRow("no entry table") << u"DROP TABLE HEFTLIST;"_s << false << u"\n\n'%1'\n\n"_s
+                                        << u"Fehler beim Öffnen der %1 Tabelle: "_s;
+        QTest::newRow("file not there") << QString() << false << u"\n\n'%1'\n\n"_s
+                                        << u"%1: Die Datei wurde nicht gefunden."_s;
+        QTest::newRow("series without cycle file") << u""_s << true << QString()
+                                                   << u"Fehler beim Öffnen der Zyklus DB: "_s;
+    }
+    void failures()
+    {
+        QFETCH(QString, damage);
+        QFETCH(bool, started);
+        QFETCH(QString, told);
+        QFETCH(QString, logged);
+        const QString path = m_root.filePath(u"Kaputt %1.mdb"_s.arg(QLatin1String(QTest::currentDataTag())));
+        if (!damage.isNull()) {
+            DbError error;
+            auto db = CreateCollectionFile(path, u"X"_s, u"Y"_s, &error);
+            QVERIFY(db && (damage.isEmpty() || !db->Execute(damage)));
+        }
         Session session;
         ScriptedPrompter prompter;
-        QVERIFY(!Start(session, prompter, path));
-        QVERIFY(prompter.asked.value(0).text.contains(u"'Konfigurations'"_s));
+        const auto named = [&](QString text) { return text.replace(u"%1"_s, path); };
+        QCOMPARE(Start(session, prompter, path), started);
+        QCOMPARE(prompter.asked.size(), told.isNull() ? 0 : 1);
+        if (!told.isNull())
+            QVERIFY2(prompter.asked[0].text.contains(named(told)), qPrintable(prompter.asked[0].text));
+        const QStringList log = ReadLog(Data() + u"/Heftarium.log"_s);
+        QVERIFY2(!log.filter(named(logged)).isEmpty(), qPrintable(log.join(u'\n')));
     }
 
 };

@@ -17,7 +17,6 @@
 #include <QPushButton>
 #include <QTabWidget>
 #include <QTest>
-#include <QTimer>
 #include <QTreeWidget>
 
 #include <memory>
@@ -75,14 +74,6 @@ struct Fixture {
 
 QTreeWidget* Persons(QWidget& window) { return Child<QTreeWidget>(window, u"liv_personen"_s); }
 
-QStringList PersonRows(QWidget& window)
-{
-    QStringList rows;
-    for (int row = 0; row < Persons(window)->topLevelItemCount(); ++row)
-        rows << Persons(window)->topLevelItem(row)->text(0);
-    return rows;
-}
-
 void DoubleClickPerson(QWidget& window, int row)
 {
     QTreeWidget* list = Persons(window);
@@ -101,14 +92,6 @@ void TypeInto(QWidget& window, const QString& name, const QString& text)
 
 void Click(QWidget& window, const QString& name) { QTest::mouseClick(Child<QWidget>(window, name), Qt::LeftButton); }
 
-void Save(QWidget& window)
-{
-    QPushButton* save = Child<QPushButton>(window, u"btn_ok"_s);
-    QVERIFY(save->isEnabled());
-    save->click();
-    QVERIFY(!save->isEnabled());
-}
-
 } // namespace
 
 class TestDetailWindow : public QObject {
@@ -121,6 +104,8 @@ private Q_SLOTS:
         QTest::addColumn<QString>("previous"); // Ersterscheinung of entry 2; null: no row
         QTest::addColumn<QDate>("expected");
         QTest::newRow("edit, previous dated") << true << u"01.03.2009"_s << QDate(2009, 3, 8);
+        QTest::newRow("edit, previous imported") << true << u"2009-12-28"_s << QDate(2010, 1, 4);
+        QTest::newRow("view, previous unknown") << false << u"31.12.1900"_s << QDate::currentDate();
         QTest::newRow("view, no previous") << false << QString() << QDate::currentDate();
     }
     void entryWithoutDetails()
@@ -135,7 +120,7 @@ private Q_SLOTS:
 
         QCOMPARE(w->windowTitle(), u"Detailinfo [#3]"_s);
         QCOMPARE(Child<QGroupBox>(*w, u"frm_det"_s)->title(), u"Zu Valdorin Nummer 3"_s);
-        QCOMPARE(PersonRows(*w), QStringList(9));
+        QCOMPARE(Persons(*w)->findItems(QString(), Qt::MatchExactly).size(), 9);
         QCOMPARE(Child<QDateEdit>(*w, u"cal_erst"_s)->date(), expected);
         QCOMPARE(Child<QLineEdit>(*w, u"txt_erst"_s)->text(), LongDate(expected));
         // A suggestion counts as known only where the user can confirm it.
@@ -163,6 +148,9 @@ private Q_SLOTS:
         QFETCH(QString, column);
         QFETCH(QString, stored);
         Fixture f;
+        // What the file held already must come back unchanged.
+        f.collection.Exec(u"INSERT INTO Details (Nr, Ersterscheinung, Untertitel, Person1) VALUES (4, '01.03.2009', 'Erbe', 'Kapitän Lorn');"_s);
+        f.collection.Exec(u"INSERT INTO Gestaltung (Nr, TiBiZeichner, RZ) VALUES (4, 'Jo O''Kell', 0);"_s);
         const auto w = f.Open(4, true);
         if (control == u"cmb_floatP"_s) {
             DoubleClickPerson(*w, 2);
@@ -178,10 +166,16 @@ private Q_SLOTS:
         } else {
             TypeInto(*w, control, typed);
         }
-        Save(*w);
+        QPushButton* save = Child<QPushButton>(*w, u"btn_ok"_s);
+        QVERIFY(save->isEnabled());
+        save->click();
+        QVERIFY(!save->isEnabled());
         const QStringList table = column.split(u'.');
         QCOMPARE(f.Value(u"SELECT %1 FROM %2 WHERE Nr=4;"_s.arg(table[1], table[0])).toString(), stored);
         QCOMPARE(f.Value(u"SELECT RZ FROM Gestaltung WHERE Nr=4;"_s).toInt(), table[1].startsWith(u"RiZe"_s) ? -1 : 0);
+        QCOMPARE(f.Value(u"SELECT Ersterscheinung || Untertitel || Person1 || TiBiZeichner FROM Details JOIN Gestaltung "
+                         "USING (Nr) WHERE Nr=4;"_s),
+                 u"01.03.2009ErbeKapitän LornJo O'Kell"_s);
         QVERIFY(f.collection.prompter.asked.isEmpty());
     }
 
@@ -227,41 +221,33 @@ private Q_SLOTS:
             QCOMPARE(f.Count(table, 3), 0);
     }
 
+    // Straight from the menu, or from the editor's "Detailinfo ..." button.
     void openedFromMainWindow_data()
     {
         QTest::addColumn<QString>("command");
-        QTest::addColumn<bool>("viaEditor"); // the editor's "Detailinfo ..." button
-        QTest::newRow("Detail Bearbeiten") << u"mnu_detail_b"_s << false;
-        QTest::newRow("editor's button") << u"mnu_edit"_s << true;
+        QTest::newRow("Detail Bearbeiten") << u"mnu_detail_b"_s;
+        QTest::newRow("editor's button") << u"mnu_edit"_s;
     }
     void openedFromMainWindow()
     {
         QFETCH(QString, command);
-        QFETCH(bool, viaEditor);
         Fixture f;
         InstallDetailWindow(f.window);
         f.window.List().FindAndShowRow(2);
-        QString caption;
-        bool saveShown = false;
-        const auto lookAndClose = [&] {
-            QWidget* modal = QApplication::activeModalWidget();
-            QVERIFY(modal != nullptr);
-            caption = modal->windowTitle();
-            saveShown = Child<QPushButton>(*modal, u"btn_ok"_s)->isVisible();
-            QTest::keyClick(modal, Qt::Key_Escape);
-        };
-        QTimer::singleShot(0, [&] {
-            if (!viaEditor)
-                return lookAndClose();
-            QWidget* editor = QApplication::activeModalWidget();
-            QTimer::singleShot(0, lookAndClose);
-            Click(*editor, u"btn_details"_s);
-            Click(*editor, u"cmd_nok"_s);
+        ModalScript details(u"frm_detail"_s);
+        details.Then([](QDialog& window) {
+            QCOMPARE(window.windowTitle(), u"Detailinfo [#2]"_s);
+            QVERIFY(Child<QPushButton>(window, u"btn_ok"_s)->isVisible());
+            QTest::keyClick(&window, Qt::Key_Escape);
+        });
+        ModalScript editor(u"frm_edit"_s);
+        editor.Then([](QDialog& dialog) {
+            Click(dialog, u"btn_details"_s);
+            Click(dialog, u"cmd_nok"_s);
         });
         QVERIFY(f.window.IsCommandEnabled(command));
         f.window.Command(command)->trigger();
-        QCOMPARE(caption, u"Detailinfo [#2]"_s);
-        QVERIFY(saveShown);
+        QVERIFY(details.opened == 1 && !details.leftOpen && !editor.leftOpen);
     }
 
 };

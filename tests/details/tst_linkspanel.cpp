@@ -6,14 +6,12 @@
 #include "details/ui/editlinkdialog.h"
 #include "details/ui/linkspanel.h"
 
-#include <QApplication>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
-#include <QTimer>
 #include <QTreeWidget>
 
-#include <functional>
 #include <memory>
 
 using namespace Qt::StringLiterals;
@@ -24,23 +22,6 @@ namespace {
 
 const QString OpenList = u"Valdorin Heftromane"_s;
 const QString OtherList = u"Sternfahrer Taschenbücher"_s;
-
-// Runs action and answers each modal dialog it opens.
-void WithDialog(const std::function<void()>& action, const std::function<void(QDialog&)>& answer)
-{
-    QTimer poll;
-    QObject::connect(&poll, &QTimer::timeout, [&] {
-        if (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget()))
-            answer(*dialog);
-    });
-    poll.start(5);
-    action();
-}
-
-void Accept(QDialog& dialog)
-{
-    dialog.findChild<QPushButton*>(u"btn_ok"_s)->click();
-}
 
 // Entries 1 to 20 in the main list, entry 5 current, with the given links.
 struct Fixture {
@@ -93,13 +74,32 @@ private Q_SLOTS:
         QCOMPARE(grid.TextMatrix(grid.Row(), ColNr), u"12"_s);
 
         // Edited into another list, the link can no longer be followed.
-        WithDialog([&] { f.Button(u"btn_edit"_s)->click(); }, [](QDialog& dialog) {
+        ModalScript script(u"frm_editlink"_s);
+        script.Then([](QDialog& dialog) {
             QCOMPARE(dialog.findChild<QLineEdit*>(u"txt_nr"_s)->text(), u"99"_s);
             dialog.findChild<QLineEdit*>(u"txt_serie"_s)->setText(OtherList);
-            Accept(dialog);
+            dialog.findChild<QPushButton*>(u"btn_ok"_s)->click();
         });
+        f.Button(u"btn_edit"_s)->click();
         QCOMPARE(f.panel->Links()[2].series, OtherList);
         QVERIFY(!jump->isEnabled());
+
+        // A new link comes below the selected one and points past the main
+        // list's entry; the header sorts numbers by value; a deleted link
+        // hands the selection on.
+        script.Then([](QDialog& dialog) {
+            QCOMPARE(dialog.findChild<QLineEdit*>(u"txt_nr"_s)->text(), u"13"_s);
+            dialog.findChild<QPushButton*>(u"btn_ok"_s)->click();
+        });
+        f.Button(u"btn_neu"_s)->click();
+        QTest::mouseClick(f.list->header()->viewport(), Qt::LeftButton, {}, QPoint(5, 5));
+        f.Button(u"btn_del"_s)->click();
+        QStringList numbers;
+        for (const LinkRow& link : f.panel->Links())
+            numbers << QString::number(link.number);
+        QCOMPARE(numbers, (QStringList{u"3"_s, u"12"_s, u"99"_s}));
+        QCOMPARE(f.list->currentItem()->text(0), u"99"_s);
+        QCOMPARE(script.opened, 2);
     }
 };
 

@@ -18,9 +18,7 @@
 #include <QPushButton>
 #include <QTabWidget>
 #include <QTest>
-#include <QTimer>
 
-#include <functional>
 
 using namespace Qt::StringLiterals;
 using namespace heft;
@@ -51,15 +49,6 @@ struct Fixture {
     MainWindow window;
     std::unique_ptr<DetailWindow> details;
 };
-
-// Answers the next modal window once it is up.
-void AnswerNextModal(const std::function<void(QWidget*)>& answer)
-{
-    QTimer::singleShot(0, [answer] {
-        QTRY_VERIFY(QApplication::activeModalWidget() != nullptr);
-        answer(QApplication::activeModalWidget());
-    });
-}
 
 } // namespace
 
@@ -97,15 +86,15 @@ private Q_SLOTS:
         QDragEnterEvent enter(box->rect().center(), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
         QApplication::sendEvent(box, &enter);
         QVERIFY(enter.isAccepted());
-        if (target == u"cmb_illu")
-            AnswerNextModal([](QWidget* input) {
-                QCOMPARE(input->objectName(), u"frm_illuinput"_s);
-                QTest::keyClicks(input->findChild<QLineEdit*>(u"txt_sz"_s), u"12"_s);
-                QTest::keyClick(input, Qt::Key_Return);
-            });
+        ModalScript page(u"frm_illuinput"_s);
+        page.Then([](QDialog& input) {
+            QTest::keyClicks(input.findChild<QLineEdit*>(u"txt_sz"_s), u"12"_s);
+            QTest::keyClick(&input, Qt::Key_Return);
+        });
         QDropEvent drop(QPointF(box->rect().center()), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
         QApplication::sendEvent(box, &drop);
         QVERIFY(QFileInfo::exists(fixture.collection.dir.filePath(stored)));
+        QCOMPARE(page.opened, target == u"cmb_illu" ? 1 : 0);
         QCOMPARE(fixture.collection.prompter.asked.size(), 1);
         QCOMPARE(fixture.collection.prompter.asked[0].title, u"Ziehen & Ablegen Info"_s);
     }
@@ -115,14 +104,15 @@ private Q_SLOTS:
         Fixture fixture;
         fixture.Picture(fixture.Store(u"tibi"_s) + u"2tibi.jpg"_s, {1440, 1000});
         auto* button = fixture.details->findChild<QPushButton*>(u"btn_tibi"_s);
-        AnswerNextModal([button](QWidget* viewer) {
-            QCOMPARE(viewer->objectName(), u"frm_tibi"_s);
+        ModalScript viewer(u"frm_tibi"_s);
+        viewer.Then([button](QDialog& shown) {
             // The button is green already while the picture is up.
             QVERIFY(button->styleSheet().contains(u"192, 255, 192"_s));
-            QCOMPARE(viewer->findChild<QWidget*>(u"img_tibi"_s)->size(), QSize(720, 500));
-            QTest::keyClick(viewer, Qt::Key_Space);
+            QCOMPARE(shown.findChild<QWidget*>(u"img_tibi"_s)->size(), QSize(720, 500));
+            QTest::keyClick(&shown, Qt::Key_Space);
         });
         button->click();
+        QVERIFY(viewer.opened == 1 && !viewer.leftOpen);
         // No cutaway drawing: orange, and the status bar says so.
         auto* rize = fixture.details->findChild<QPushButton*>(u"btn_rize"_s);
         rize->click();
@@ -141,12 +131,14 @@ private Q_SLOTS:
         QCOMPARE(list->count(), 3);
         QCOMPARE(list->item(1)->text(), u"Seite 017"_s);
         list->setCurrentRow(1);
-        AnswerNextModal([](QWidget* viewer) {
-            QCOMPARE(viewer->windowTitle(), u"Innenillustration Seite 017 [#2]"_s);
-            QCOMPARE(viewer->findChild<QWidget*>(u"img_tibi"_s)->size(), QSize(150, 540));
-            viewer->close();
+        ModalScript viewer(u"frm_tibi"_s);
+        viewer.Then([](QDialog& shown) {
+            QCOMPARE(shown.windowTitle(), u"Innenillustration Seite 017 [#2]"_s);
+            QCOMPARE(shown.findChild<QWidget*>(u"img_tibi"_s)->size(), QSize(150, 540));
+            shown.close();
         });
         QTest::keyClick(list, Qt::Key_Return);
+        QCOMPARE(viewer.opened, 1);
         QVERIFY(!list->isVisible());
     }
 };

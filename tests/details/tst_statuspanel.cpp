@@ -17,13 +17,14 @@ using namespace heft::test;
 
 namespace {
 
-// Entry 7 with a stamp, a count, a condition, a seller and a price; the
-// condition used in other entries too. ENum 25 belongs to no attribute.
+// Entry 7 with a stamp, a count, a condition, a seller and a price (with
+// the comma of older files); the condition used in other entries too. ENum
+// 25 belongs to no attribute.
 struct Fixture {
     explicit Fixture(bool edit = true)
     {
         for (const QString& row : {u"7, 1, '2024-01-02 um 10:11:12'"_s, u"7, 2, '0000120'"_s, u"7, 3, 'gut'"_s,
-                                   u"7, 4, 'Kiosk am Markt'"_s, u"7, 5, '00003.5'"_s, u"7, 25, 'verirrt'"_s,
+                                   u"7, 4, 'Kiosk am Markt'"_s, u"7, 5, '0003,50'"_s, u"7, 25, 'verirrt'"_s,
                                    u"8, 3, 'sehr gut'"_s, u"9, 3, '  mäßig '"_s, u"10, 3, ''"_s, u"11, 3, 'gut'"_s})
             collection.Exec(u"INSERT INTO Status (Nr, ENum, StatusWert) VALUES (%1);"_s.arg(row));
         auto* panel_ = new StatusPanel(collection.session, &window);
@@ -41,11 +42,6 @@ struct Fixture {
     }
     QTreeWidgetItem* Row(int enumber) const { return list->topLevelItem(enumber - 1); }
     QString Shown(int enumber) const { return Row(enumber)->text(0); }
-    void OpenWithEnter(int enumber) const
-    {
-        list->setCurrentItem(Row(enumber));
-        QTest::keyClick(list, Qt::Key_Return);
-    }
     TempCollection collection;
     QDialog window; // stands in for the detail window, to see where Esc goes
     StatusPanel* panel = nullptr;
@@ -68,8 +64,11 @@ private Q_SLOTS:
         QTest::addColumn<QString>("typed");
         QTest::addColumn<QString>("shown");
         QTest::addColumn<QString>("stored");
-        QTest::newRow("comma refused in the price") << 5 << u"4,5"_s << u"45"_s << u"0000045"_s;
-        QTest::newRow("old lending date") << 18 << u"1.2.1899"_s << u"1901-01-01"_s << u"1901-01-01"_s;
+        QTest::addColumn<QStringList>("offered"); // by the combo box; empty: a text box
+        QTest::newRow("comma refused in the price") << 5 << u"4,5"_s << u"45"_s << u"0000045"_s << QStringList();
+        QTest::newRow("old lending date") << 18 << u"1.2.1899"_s << u"1901-01-01"_s << u"1901-01-01"_s << QStringList();
+        QTest::newRow("condition from the used ones") << 3 << u"neu "_s << u"neu"_s << u"neu"_s
+                                                      << QStringList{u"mäßig"_s, u"gut"_s, u"sehr gut"_s};
     }
     void typeAndEnter()
     {
@@ -77,19 +76,29 @@ private Q_SLOTS:
         QFETCH(QString, typed);
         QFETCH(QString, shown);
         QFETCH(QString, stored);
+        QFETCH(QStringList, offered);
         Fixture f;
+        // The tests run with the German locale: a number still shows a point.
+        QCOMPARE(f.Shown(5), u"3.5"_s);
         QSignalSpy changed(f.panel, &StatusPanel::Changed);
-        f.OpenWithEnter(enumber);
-        QVERIFY(!f.text->isHidden() && f.combo->isHidden());
+        f.list->setCurrentItem(f.Row(enumber));
+        QTest::keyClick(f.list, Qt::Key_Return);
+        QWidget* editor = offered.isEmpty() ? static_cast<QWidget*>(f.text) : f.combo;
+        QVERIFY(!editor->isHidden() && f.text->isHidden() != f.combo->isHidden());
+        QStringList items;
+        for (int index = 0; index < f.combo->count(); ++index)
+            items << f.combo->itemText(index);
+        QCOMPARE(items, offered);
         QVERIFY(f.Row(enumber)->font(1).bold());
         // The box lies over the row's value cell.
-        const QRect box(f.list->viewport()->mapFrom(f.text->parentWidget(), f.text->pos()), f.text->size());
+        const QRect box(f.list->viewport()->mapFrom(editor->parentWidget(), editor->pos()), editor->size());
         QVERIFY(box.contains(f.list->visualItemRect(f.Row(enumber)).topLeft() + QPoint(4, 4)));
         QVERIFY(box.right() < f.list->columnWidth(0));
 
-        f.text->clear();
-        QTest::keyClicks(f.text, typed);
-        QTest::keyClick(f.text, Qt::Key_Return);
+        QLineEdit* typing = offered.isEmpty() ? f.text : f.combo->lineEdit();
+        typing->clear();
+        QTest::keyClicks(typing, typed);
+        QTest::keyClick(typing, Qt::Key_Return);
         QVERIFY(!f.panel->IsEditorOpen());
         QCOMPARE(f.Shown(enumber), shown);
         QCOMPARE(f.panel->StoredValue(enumber), stored);

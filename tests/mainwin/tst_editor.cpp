@@ -53,12 +53,11 @@ void Press(QDialog& dialog, const QString& button)
 // Every table that hangs on an entry, with one row each for nr.
 void AddDependents(TempCollection& collection, int nr, const QString& mark)
 {
-    collection.Exec(u"INSERT INTO Details (Nr, Untertitel) VALUES (%1, '%2');"_s.arg(nr).arg(mark));
-    collection.Exec(u"INSERT INTO Gestaltung (Nr, TiBiZeichner) VALUES (%1, '%2');"_s.arg(nr).arg(mark));
-    collection.Exec(u"INSERT INTO Status (Nr, ENum, StatusWert) VALUES (%1, 7, '%2');"_s.arg(nr).arg(mark));
-    collection.Exec(u"INSERT INTO Links (Nr, ENum, LinkNum, LinkText, LinkSerie) VALUES (%1, 1, 3, '%2', 'VN');"_s
-                        .arg(nr)
-                        .arg(mark));
+    for (const QString& sql : {u"INSERT INTO Details (Nr, Untertitel) VALUES (%1, '%2');"_s,
+                               u"INSERT INTO Gestaltung (Nr, TiBiZeichner) VALUES (%1, '%2');"_s,
+                               u"INSERT INTO Status (Nr, ENum, StatusWert) VALUES (%1, 7, '%2');"_s,
+                               u"INSERT INTO Links (Nr, ENum, LinkNum, LinkText, LinkSerie) VALUES (%1, 1, 3, '%2', 'VN');"_s})
+        collection.Exec(sql.arg(nr).arg(mark));
 }
 
 // The marks of the dependent rows of nr, table by table ("" where none).
@@ -97,6 +96,17 @@ struct Editor {
     {
         return collection.Value(u"SELECT %1 FROM HEFTLIST WHERE Nr=%2;"_s.arg(column).arg(nr)).toString();
     }
+    // The filter list of the entries from nr on, as a filter run leaves it.
+    void ShowFilter(int from)
+    {
+        Session& session = collection.session;
+        session.SharedRecordset =
+            session.CollectionDb->Select(u"SELECT * FROM HEFTLIST WHERE Nr>=%1 ORDER BY Nr;"_s.arg(from));
+        EntryList& list = window.List();
+        list.ActiveGrid = &list.Filter;
+        list.SetupGridColumns();
+        list.FillGrid(session);
+    }
     const EntryGrid& Full() { return window.List().Heftliste; }
     QString Current(int col) { return Full().TextMatrix(Full().Row(), col); }
 
@@ -111,20 +121,22 @@ class TestEditor : public QObject {
 
 private Q_SLOTS:
     // Changing an entry and inserting one run through the same dialog; a new
-    // entry starts as a copy of the selected one.
+    // entry starts as a copy of the selected one. Work in the filter list
+    // shows in the full list too.
     void editAndInsert_data()
     {
         QTest::addColumn<bool>("editing");
+        QTest::addColumn<int>("filterFrom"); // 0: the full list is shown
         QTest::addColumn<QList<int>>("numbers");
         QTest::addColumn<int>("selected");
         QTest::addColumn<QStringList>("shown");
         QTest::addColumn<QStringList>("listed");
-        QTest::newRow("edit") << true << QList<int>{1, 2, 3, 4, 5} << 4
+        QTest::newRow("edit") << true << 0 << QList<int>{1, 2, 3, 4, 5} << 4
                               << QStringList{u"Eintrag Editieren ..."_s, u"4"_s, u"Autor 4"_s, u"Titel 4"_s, u"-1-"_s,
                                              u"IV"_s, u"Ja"_s, u"Bem 4"_s}
                               << QStringList{u"1"_s, u"2"_s, u"3"_s, u"4"_s, u"5"_s};
-        QTest::newRow("insert after the last row")
-            << false << QList<int>{1, 2, 4, 5} << 5
+        QTest::newRow("insert after the last row of a filter list")
+            << false << 4 << QList<int>{1, 2, 4, 5} << 5
             << QStringList{u"Eintrag Einfügen ..."_s, u"6"_s, u"Autor 5"_s, u"- Kein Titel -"_s, u"-2-"_s, u"IV"_s,
                            u"Nein"_s, u"Bem 5"_s}
             << QStringList{u"1"_s, u"2"_s, u"4"_s, u"5"_s, u"6"_s};
@@ -136,7 +148,10 @@ private Q_SLOTS:
         QFETCH(int, selected);
         QFETCH(QStringList, shown);
         QFETCH(QStringList, listed);
+        QFETCH(int, filterFrom);
         Editor editor(numbers);
+        if (filterFrom > 0)
+            editor.ShowFilter(filterFrom);
         ModalScript script(u"frm_edit"_s);
         QStringList seen;
         bool detailsHidden = false;

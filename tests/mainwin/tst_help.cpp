@@ -1,11 +1,11 @@
 #include "testmain.h"
+#include "testsupport.h"
 
 #include "mainwin/ui/helpwindow.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTextBlock>
@@ -34,11 +34,6 @@ QPoint LinkPosition(QTextBrowser* browser, const QString& target)
     return {-1, -1};
 }
 
-QString ShownPage(const QTextBrowser* browser)
-{
-    return browser->source().fileName();
-}
-
 } // namespace
 
 class TestHelp : public QObject {
@@ -52,7 +47,6 @@ private Q_SLOTS:
         QTest::newRow("the build tree comes first")
             << QStringList{u"bin/help/index.html"_s, u"share/Quintara/Heftarium/help/index.html"_s} << u"bin/help"_s;
         QTest::newRow("folder without its index page") << QStringList{u"bin/help/liste.html"_s} << QString();
-        QTest::newRow("no manual") << QStringList{} << QString();
     }
     void findHelpFolder()
     {
@@ -60,11 +54,8 @@ private Q_SLOTS:
         QFETCH(QString, found);
         QTemporaryDir root;
         QDir(root.path()).mkpath(u"bin"_s);
-        for (const QString& page : indexPages) {
-            QDir(root.path()).mkpath(QFileInfo(page).path());
-            QFile file(root.filePath(page));
-            QVERIFY(file.open(QIODevice::WriteOnly));
-        }
+        for (const QString& page : indexPages)
+            heft::test::WriteFile(root.filePath(page));
         QCOMPARE(FindHelpFolder(root.filePath(u"bin"_s)), found.isEmpty() ? QString() : root.filePath(found));
     }
 
@@ -76,7 +67,7 @@ private Q_SLOTS:
         window.show();
         QVERIFY(QTest::qWaitForWindowExposed(&window));
         QTextBrowser* browser = window.Browser();
-        QCOMPARE(ShownPage(browser), u"index.html"_s);
+        QCOMPARE(browser->source().fileName(), u"index.html"_s);
         auto* back = window.findChild<QAction*>(u"btn_back"_s);
         auto* forward = window.findChild<QAction*>(u"btn_forward"_s);
         auto* home = window.findChild<QAction*>(u"btn_home"_s);
@@ -85,17 +76,17 @@ private Q_SLOTS:
         const QPoint link = LinkPosition(browser, u"bearbeiten.html"_s);
         QVERIFY(browser->viewport()->rect().contains(link));
         QTest::mouseClick(browser->viewport(), Qt::LeftButton, {}, link);
-        QCOMPARE(ShownPage(browser), u"bearbeiten.html"_s);
+        QCOMPARE(browser->source().fileName(), u"bearbeiten.html"_s);
         QVERIFY(browser->toPlainText().contains(u"*** Unbekannt ***"_s));
         QVERIFY(back->isEnabled());
 
         back->trigger();
-        QCOMPARE(ShownPage(browser), u"index.html"_s);
+        QCOMPARE(browser->source().fileName(), u"index.html"_s);
         QVERIFY(forward->isEnabled());
         forward->trigger();
-        QCOMPARE(ShownPage(browser), u"bearbeiten.html"_s);
+        QCOMPARE(browser->source().fileName(), u"bearbeiten.html"_s);
         home->trigger();
-        QCOMPARE(ShownPage(browser), u"index.html"_s);
+        QCOMPARE(browser->source().fileName(), u"index.html"_s);
     }
 
 };

@@ -25,12 +25,11 @@ struct SplashFixture {
     {
         QDir(collection.dir.path()).mkdir(u"bm"_s);
         for (const QString& name : {u"Logo.svg"_s, u"Splash.svg"_s})
-            QFile::copy(QStringLiteral(HEFTARIUM_DATA_SOURCES) + u"/bm/"_s + name, Bm(name));
+            QFile::copy(QStringLiteral(HEFTARIUM_DATA_SOURCES) + u"/bm/"_s + name,
+                        collection.dir.filePath(u"bm/"_s + name));
         collection.session.Config.LogoFile = u"Logo.svg"_s;
         collection.session.Config.SplashFile = u"Splash.svg"_s;
     }
-    QString Bm(const QString& name) const { return collection.dir.filePath(u"bm/"_s + name); }
-    Session& session() { return collection.session; }
 
     TempCollection collection;
 };
@@ -67,7 +66,7 @@ private Q_SLOTS:
         QFETCH(QString, target);
         QFETCH(int, key);
         SplashFixture fixture;
-        SplashWindow window(fixture.session());
+        SplashWindow window(fixture.collection.session);
         QVERIFY(window.LoadImages());
         const bool closed = ClosesWhileModal(window, [&] {
             if (target.isEmpty())
