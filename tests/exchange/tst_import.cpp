@@ -19,11 +19,12 @@ namespace {
 const QString ListHead = u"[Valdorin Heftromane]"_s;
 const QString EntrySql = u"SELECT Nr, Autor, Titel, Auflage, Zyklus, GL, Bemerkung FROM HEFTLIST WHERE Nr=%1;"_s;
 
-QStringList Status19(const QString& fifth)
+QStringList Status19(const QString& fifth, const QString& last = {})
 {
     QStringList values(StatusCount);
     values[0] = u"neu eins"_s;
     values[4] = fifth;
+    values[18] = last;
     return values;
 }
 
@@ -105,23 +106,39 @@ private Q_SLOTS:
                                                     u"Neuer Inhalt"_s, design) +
                                       Fields({u""_s});
         const QString sparse = DetailsFields(u"1"_s, u""_s, u""_s, u""_s, u""_s, {u""_s, u"I2"_s, u""_s, u""_s, u""_s}) +
-                               Fields(Status19(u"0000003"_s)) + Fields({u"12"_s, u"Neuer Link"_s, u"VN"_s});
+                               Fields(Status19(u""_s, u"O'Neil"_s)) + Fields({u"12"_s, u"Neuer Link"_s, u"VN"_s});
+        // Every text at its limit (the content limit is the collection's),
+        // or one character beyond it: both store the text at its limit.
+        const auto limits = [](int more) -> QString {
+            const auto text = [more](int limit, char16_t c) { return QString(limit + more, c); };
+            return DetailsFields(u"1"_s, u"2006-10-05"_s, text(128, u'u'), text(32, u'p'), text(200, u'i'),
+                                 {text(64, u't'), text(64, u'l'), u"ja"_s, text(96, u'o'), text(64, u'z')}) +
+                   Fields(Status19(text(128, u's'))) + Fields({u"12"_s, text(128, u'k'), text(48, u'v')});
+        };
 
         const QString oldDetails = u"1999-01-02|Alter Untertitel|Olga|Alter Inhalt"_s;
         const QString oldDesign = u"Tibi|Illu|0|Objekt|Zeichner"_s;
-        const QString oldStatus = u"1=alt eins,5=0000002"_s;
-        const QString oldLinks = u"1:7:Alter Link"_s;
+        const QString oldStatus = u"2 1=alt eins,5=0000002"_s;
+        const QString oldLinks = u"1:7:Alter Link:Valdorin"_s;
         QTest::newRow("insert on an existing entry")
             << 0 << withStatus << 1 << oldDetails << oldDesign << oldStatus << oldLinks;
         QTest::newRow("all columns with status part")
             << 1 << withStatus << 0 << u"2006-10-05|Neuer Untertitel|Jürgen|Neuer Inhalt"_s
-            << u"T2|I2|-1|O2|Z2"_s << u"1=neu eins,5=0000003"_s << u"1:12:Neuer Link"_s;
+            << u"T2|I2|-1|O2|Z2"_s << u"19 1=neu eins,5=0000003"_s << u"1:12:Neuer Link:VN"_s;
         QTest::newRow("all columns without status part")
             << 1 << withoutStatus << 0 << u"2006-10-05|Neuer Untertitel||Neuer Inhalt"_s << u"T2|I2|-1|O2|Z2"_s
             << oldStatus << oldLinks;
         QTest::newRow("only imported keeps empty fields")
-            << 2 << sparse << 0 << oldDetails << u"Tibi|I2|0|Objekt|Zeichner"_s << u"1=neu eins,5=0000003"_s
-            << u"1:12:Neuer Link"_s;
+            << 2 << sparse << 0 << oldDetails << u"Tibi|I2|0|Objekt|Zeichner"_s
+            << u"3 1=neu eins,5=0000002,19=O'Neil"_s << u"1:12:Neuer Link:VN"_s;
+        for (int more : {0, 1})
+            QTest::newRow(more ? "texts one beyond their limits" : "texts at their limits")
+                << 1 << limits(more) << 0
+                << u"2006-10-05|"_s + QString(128, u'u') + u'|' + QString(32, u'p') + u'|' + QString(200, u'i')
+                << QString(64, u't') + u'|' + QString(64, u'l') + u"|-1|"_s + QString(96, u'o') + u'|' +
+                       QString(64, u'z')
+                << u"19 1=neu eins,5="_s + QString(128, u's')
+                << u"1:12:"_s + QString(128, u'k') + u':' + QString(48, u'v');
     }
 
     void detailsFile()
@@ -134,16 +151,19 @@ private Q_SLOTS:
         QFETCH(QString, status);
         QFETCH(QString, links);
         ImportFixture f;
+        f.collection.session.Config.ContentLimit = 200;
         f.import.ImportDatFile(f.Write(u"liste_Details.dat"_s, u"[Valdorin Details]"_s, {line}),
                                static_cast<ImportMode>(mode));
         QCOMPARE(f.import.Refused(), refused);
         QCOMPARE(f.Rows(u"SELECT Ersterscheinung, Untertitel, Person1, Inhalt FROM Details WHERE Nr=1;"_s), details);
         QCOMPARE(f.Rows(u"SELECT TiBiZeichner, IlluZeichner, RZ, RiZeObjekt, RiZeZeichner FROM Gestaltung;"_s),
                  gestaltung);
-        QCOMPARE(f.Rows(u"SELECT GROUP_CONCAT(ENum || '=' || StatusWert) FROM (SELECT * FROM Status WHERE Nr=1 "
-                        "AND StatusWert<>'' ORDER BY ENum);"_s),
+        // The count of rows tells the empty values apart, which are stored too.
+        QCOMPARE(f.Rows(u"SELECT COUNT(*) || ' ' || GROUP_CONCAT(IIF(StatusWert='', NULL, ENum || '=' || StatusWert)) "
+                        "FROM (SELECT * FROM Status WHERE Nr=1 ORDER BY ENum);"_s),
                  status);
-        QCOMPARE(f.Rows(u"SELECT GROUP_CONCAT(ENum || ':' || LinkNum || ':' || LinkText) FROM Links;"_s), links);
+        QCOMPARE(f.Rows(u"SELECT GROUP_CONCAT(ENum || ':' || LinkNum || ':' || LinkText || ':' || LinkSerie) FROM Links;"_s),
+                 links);
         // Details never touch the list.
         QCOMPARE(f.list.Heftliste.Rows() - 1, 2);
     }
