@@ -33,6 +33,8 @@ private Q_SLOTS:
             << QStringList{u".txt"_s} << u"Valdorin Heftromane gefiltert nach: Nummer größer als 1  (2 Einträge)"_s;
         QTest::newRow("nothing found") << QStringList{u"--format"_s, u"txt"_s, u"Nr:IST:9"_s} << 0
                                        << u"Zu den gegebenen Filter-Kriterien"_s << QStringList() << QString();
+        QTest::newRow("no format") << QStringList{u"--format"_s, u","_s} << 2 << QString() << QStringList()
+                                   << QString();
         QTest::newRow("unknown format") << QStringList{u"--format"_s, u"pdf"_s} << 2 << QString() << QStringList()
                                         << QString();
         QTest::newRow("bad criterion") << QStringList{u"--format"_s, u"dat"_s, u"Nr:ÄHNLICH"_s} << 2 << QString()
