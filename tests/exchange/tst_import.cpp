@@ -61,8 +61,8 @@ private Q_SLOTS:
             << 2 << Fields({u"1"_s, u""_s, u""_s, u""_s, u""_s, u""_s, u""_s}) << 1
             << u"1|Ada Quell|Nebelhafen|1|- - -|-1|alt"_s << 0 << 3;
         QTest::newRow("only imported: filled fields")
-            << 2 << Fields({u"1"_s, u"Neu"_s, u""_s, u"3"_s, u"v"_s, u"nein"_s, u"neu"_s}) << 1
-            << u"1|Neu|Nebelhafen|3|V|0|neu"_s << 0 << 3;
+            << 2 << Fields({u"1"_s, u"Neu"_s, u"Neu T"_s, u"3"_s, u"v"_s, u"nein"_s, u"neu"_s}) << 1
+            << u"1|Neu|Neu T|3|V|0|neu"_s << 0 << 3;
     }
 
     void listFile()
@@ -105,8 +105,9 @@ private Q_SLOTS:
         const QString withoutStatus = DetailsFields(u"1"_s, u"2006-10-05"_s, u"Neuer Untertitel"_s, u""_s,
                                                     u"Neuer Inhalt"_s, design) +
                                       Fields({u""_s});
-        const QString sparse = DetailsFields(u"1"_s, u""_s, u""_s, u""_s, u""_s, {u""_s, u"I2"_s, u""_s, u""_s, u""_s}) +
-                               Fields(Status19(u""_s, u"O'Neil"_s)) + Fields({u"12"_s, u"Neuer Link"_s, u"VN"_s});
+        const QString sparse =
+            DetailsFields(u"1"_s, u""_s, u""_s, u""_s, u""_s, {u""_s, u"I2"_s, u"JA"_s, u""_s, u""_s}) +
+            Fields(Status19(u""_s, u"O'Neil"_s)) + Fields({u"12"_s, u"Neuer Link"_s, u"VN"_s, u"13"_s, u"Neu"_s, u""_s});
         // Every text at its limit (the content limit is the collection's),
         // or one character beyond it: both store the text at its limit.
         const auto limits = [](int more) -> QString {
@@ -129,8 +130,8 @@ private Q_SLOTS:
             << 1 << withoutStatus << 0 << u"2006-10-05|Neuer Untertitel||Neuer Inhalt"_s << u"T2|I2|-1|O2|Z2"_s
             << oldStatus << oldLinks;
         QTest::newRow("only imported keeps empty fields")
-            << 2 << sparse << 0 << oldDetails << u"Tibi|I2|0|Objekt|Zeichner"_s
-            << u"3 1=neu eins,5=0000002,19=O'Neil"_s << u"1:12:Neuer Link:VN"_s;
+            << 2 << sparse << 0 << oldDetails << u"Tibi|I2|-1|Objekt|Zeichner"_s
+            << u"3 1=neu eins,5=0000002,19=O'Neil"_s << u"1:12:Neuer Link:VN,2:13:Neu:"_s;
         for (int more : {0, 1})
             QTest::newRow(more ? "texts one beyond their limits" : "texts at their limits")
                 << 1 << limits(more) << 0
@@ -180,6 +181,8 @@ private Q_SLOTS:
         QTest::newRow("insert of a stored cycle")
             << 0 << Fields({u"I"_s, u"20"_s, u"29"_s, u"1990"_s, u"1991"_s, u"Doppelt"_s, u""_s})
             << u"I|1|9|1980|1981|Anfang|A"_s << 1;
+        QTest::newRow("all columns") << 1 << Fields({u"I"_s, u"2"_s, u"8"_s, u"1970"_s, u"1971"_s, u"O'Alle"_s, u""_s})
+                                     << u"I|2|8|1970|1971|O'Alle|"_s << 0;
         QTest::newRow("only imported") << 2 << Fields({u"I"_s, u""_s, u"12"_s, u""_s, u""_s, u"O'Neu"_s, u""_s})
                                        << u"I|1|12|1980|1981|O'Neu|A"_s << 0;
     }
