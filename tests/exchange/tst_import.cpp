@@ -126,6 +126,11 @@ private Q_SLOTS:
         QTest::newRow("all columns with status part")
             << 1 << withStatus << 0 << u"2006-10-05|Neuer Untertitel|Jürgen|Neuer Inhalt"_s
             << u"T2|I2|-1|O2|Z2"_s << u"19 1=neu eins,5=0000003"_s << u"1:12:Neuer Link:VN"_s;
+        // A link number that is no number drops the link.
+        QTest::newRow("all columns, link without number")
+            << 1 << QString(withStatus).replace(u"\"12\";"_s, u"\"x\";"_s) << 0
+            << u"2006-10-05|Neuer Untertitel|Jürgen|Neuer Inhalt"_s << u"T2|I2|-1|O2|Z2"_s
+            << u"19 1=neu eins,5=0000003"_s << QString();
         QTest::newRow("all columns without status part")
             << 1 << withoutStatus << 0 << u"2006-10-05|Neuer Untertitel||Neuer Inhalt"_s << u"T2|I2|-1|O2|Z2"_s
             << oldStatus << oldLinks;
