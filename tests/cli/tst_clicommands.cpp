@@ -68,6 +68,8 @@ private Q_SLOTS:
             << QStringList{u"fill"_s, u"Nr:IST:2"_s, u"--target"_s, u"Auflage"_s, u"--value"_s, u"-6-"_s} << 2
             << QString() << u"Nicht in der Liste von Auflage: -6-\n"_s << u"SELECT SUM(Auflage) FROM HEFTLIST;"_s
             << u"4"_s;
+        QTest::newRow("fill without value") << QStringList{u"fill"_s, u"Nr:IST:2"_s, u"--target"_s, u"Preis"_s} << 2
+                                            << QString() << QString() << price << QString();
         QTest::newRow("fill unknown column")
             << QStringList{u"fill"_s, u"Nr:IST:2"_s, u"--target"_s, u"Farbe"_s, u"--value"_s, u"rot"_s} << 2
             << QString() << u"Unbekannte Spalte: Farbe\n"_s << QString() << QString();
