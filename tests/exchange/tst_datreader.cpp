@@ -85,26 +85,6 @@ private Q_SLOTS:
         QCOMPARE(r.Bemerkung, u"Gut"_s);
     }
 
-    void goodListLines_data()
-    {
-        QTest::addColumn<QString>("line");
-        QTest::addColumn<unsigned>("bits");
-        QTest::newRow("complete") << line(u"A"_s, u"T"_s, u"1"_s, u"I"_s, u"Ja"_s, u"x"_s) << 127u;
-        // The title is cut at ";" and needs the next field's opening quote.
-        QTest::newRow("three fields only") << u"\"2\";\"B\";\"U\";"_s << 3u;
-        QTest::newRow("no separator at all") << u"Kaputt"_s << 0u;
-        QTest::newRow("empty author is still read") << u"\"2\";\"\";\"U\";\"1\";\"I\";\"Ja\";\"\";"_s << 127u;
-    }
-    void goodListLines()
-    {
-        QFETCH(QString, line);
-        QFETCH(unsigned, bits);
-        ListReader reader;
-        const ListRecord& r = reader.Read(line);
-        QCOMPARE(r.Bits, bits);
-        QCOMPARE(r.IsGood(), (bits & GoodListBits) == GoodListBits);
-    }
-
     void cycleLines_data()
     {
         QTest::addColumn<QString>("line");
@@ -128,6 +108,7 @@ private Q_SLOTS:
                 << limits(more) << true
                 << QStringList{u"XXXVIIII"_s, u"12345"_s, u"54321"_s, u"1"_s, u"2"_s, QString(50, u'b'),
                                QString(50, u'g')};
+        QTest::newRow("no separator at all") << u"Kaputt"_s << false << QStringList(7);
         // Bezeichnung finds no ";" and stays as it was; the failed cut still
         // takes two characters off the rest, and the last field reads "z".
         QTest::newRow("six fields are not enough") << u"\"I\";\"1\";\"50\";\"2040\";\"2050\";\"Bez\";"_s << false
@@ -210,21 +191,6 @@ private Q_SLOTS:
     {
         QFETCH(QString, line);
         QTEST(KindOfHeader(line, u"Valdorin"_s, u"Heftromane"_s), "kind");
-    }
-
-    // Dates go out in ISO form where they can be read.
-    void writtenDates_data()
-    {
-        QTest::addColumn<QString>("stored");
-        QTest::addColumn<QString>("written");
-        QTest::newRow("german") << u"8.9.1961"_s << u"1961-09-08"_s;
-        QTest::newRow("month name from the web") << u"2006-Oktober-05"_s << u"2006-10-05"_s;
-        QTest::newRow("no date stays") << u"Herbst 1962"_s << u"Herbst 1962"_s;
-    }
-    void writtenDates()
-    {
-        QFETCH(QString, stored);
-        QTEST(FormatDatDate(stored), "written");
     }
 
 private:
