@@ -102,7 +102,7 @@ private Q_SLOTS:
         const QString withStatus = DetailsFields(u"1"_s, u"2006-Oktober-05"_s, u"Neuer Untertitel"_s,
                                                  u"Jürgen"_s, u"Neuer Inhalt"_s, design) +
                                    Fields(Status19(u"0000003"_s)) + Fields({u"12"_s, u"Neuer Link"_s, u"VN"_s});
-        const QString withoutStatus = DetailsFields(u"1"_s, u"2006-10-05"_s, u"Neuer Untertitel"_s, u""_s,
+        const QString withoutStatus = DetailsFields(u"1"_s, u"Herbst 1962"_s, u"Neuer Untertitel"_s, u""_s,
                                                     u"Neuer Inhalt"_s, design) +
                                       Fields({u""_s});
         const QString sparse =
@@ -132,7 +132,7 @@ private Q_SLOTS:
             << u"2006-10-05|Neuer Untertitel|Jürgen|Neuer Inhalt"_s << u"T2|I2|-1|O2|Z2"_s
             << u"19 1=neu eins,5=0000003"_s << QString();
         QTest::newRow("all columns without status part")
-            << 1 << withoutStatus << 0 << u"2006-10-05|Neuer Untertitel||Neuer Inhalt"_s << u"T2|I2|-1|O2|Z2"_s
+            << 1 << withoutStatus << 0 << u"Herbst 1962|Neuer Untertitel||Neuer Inhalt"_s << u"T2|I2|-1|O2|Z2"_s
             << oldStatus << oldLinks;
         QTest::newRow("only imported keeps empty fields")
             << 2 << sparse << 0 << oldDetails << u"Tibi|I2|-1|Objekt|Zeichner"_s
