@@ -44,6 +44,15 @@ private Q_SLOTS:
                                       u"INSERT INTO HEFTLIST VALUES (5, 'A', 'T', 0, 'I', 0, '');"_s});
         QCOMPARE(duplicate.code, 1);
         QVERIFY(duplicate.out.startsWith(u"3022 The changes you requested"_s));
+
+        // Without its settings table a collection is refused by every command that reads them.
+        QCOMPARE(Run({u"--db"_s, db, u"sql"_s, u"DROP TABLE KONFIGURATION;"_s}).code, 0);
+        for (const QStringList& command : {QStringList{u"info"_s}, {u"import"_s, db},
+                                           {u"export"_s, dir.filePath(u"x"_s), u"--format"_s, u"dat"_s}}) {
+            const CliRun refused = Run(QStringList{u"--db"_s, db} + command);
+            QCOMPARE(refused.code, 1);
+            QVERIFY2(refused.err.startsWith(u"KONFIGURATION nicht lesbar: "_s), qPrintable(refused.err));
+        }
     }
 
     // Help and version answer on stdout before any file is touched; a wrong

@@ -61,6 +61,18 @@ private Q_SLOTS:
         QTest::newRow("fill no cycle only when said so")
             << QStringList{u"fill"_s, u"Nr:IST:2"_s, u"--target"_s, u"Zyklus"_s, u"--value"_s, u""_s} << 1
             << QString() << QString() << u"SELECT Zyklus FROM HEFTLIST WHERE Nr=2;"_s << u"II"_s;
+        QTest::newRow("fill read mark from its list")
+            << QStringList{u"fill"_s, u"Nr:IST:2"_s, u"--target"_s, u"Gelesen"_s, u"--value"_s, u"Ja"_s} << 0
+            << u"Geänderte Einträge: 1\n"_s << QString() << u"SELECT SUM(GL) FROM HEFTLIST;"_s << u"-1"_s;
+        QTest::newRow("fill printing not in its list")
+            << QStringList{u"fill"_s, u"Nr:IST:2"_s, u"--target"_s, u"Auflage"_s, u"--value"_s, u"-6-"_s} << 2
+            << QString() << u"Nicht in der Liste von Auflage: -6-\n"_s << u"SELECT SUM(Auflage) FROM HEFTLIST;"_s
+            << u"4"_s;
+        QTest::newRow("fill without value") << QStringList{u"fill"_s, u"Nr:IST:2"_s, u"--target"_s, u"Preis"_s} << 2
+                                            << QString() << QString() << price << QString();
+        QTest::newRow("fill unknown column")
+            << QStringList{u"fill"_s, u"Nr:IST:2"_s, u"--target"_s, u"Farbe"_s, u"--value"_s, u"rot"_s} << 2
+            << QString() << u"Unbekannte Spalte: Farbe\n"_s << QString() << QString();
         QTest::newRow("fill, nothing found")
             << QStringList{u"fill"_s, u"Nr:IST:9"_s, u"--target"_s, u"Lagerort"_s, u"--value"_s, u"Kiste"_s} << 0
             << nothingFound << QString() << u"SELECT COUNT(*) FROM Status WHERE ENum=1;"_s << u"0"_s;
@@ -86,6 +98,11 @@ private Q_SLOTS:
         QTest::newRow("filter failed statement") << QStringList{u"filter"_s, u"Nr:IST:"_s} << 1
                                                  << u"h.Nr= \nNummer = <LEER> \n"_s << QString() << QString()
                                                  << QString();
+        QTest::newRow("filter unknown field") << QStringList{u"filter"_s, u"Farbe:IST:rot"_s} << 2 << QString()
+                                              << u"Unbekanntes Feld: Farbe\n"_s << QString() << QString();
+        QTest::newRow("filter unknown join")
+            << QStringList{u"filter"_s, u"Nr:IST:1"_s, u"ABER"_s, u"Nr:IST:2"_s} << 2 << QString()
+            << u"Unbekanntes Verknüpfungswort: ABER\n"_s << QString() << QString();
         QTest::newRow("filter not in the list") << QStringList{u"filter"_s, u"Zustand:IST:fehlt"_s} << 2
                                                 << QString() << QString() << QString() << QString();
 

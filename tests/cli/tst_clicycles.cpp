@@ -26,6 +26,8 @@ private Q_SLOTS:
         QTest::addColumn<QString>("written"); // below the temporary folder, empty for none
         QTest::newRow("in DBs") << u"DBs/Valdorin Zyklus.mdb"_s << QStringList{} << 0
                                 << u"export/Valdorin-Zyklus.dat"_s;
+        QTest::newRow("series given, beside the file") << u"Liste.mdb"_s << QStringList{u"--series"_s, u"Valdorin"_s}
+                                                       << 0 << u"export/Valdorin-Zyklus.dat"_s;
         QTest::newRow("series unknown") << u"Liste.mdb"_s << QStringList{} << 2 << QString();
         QTest::newRow("no such file") << u"Fehlt Zyklus.mdb"_s << QStringList{} << 1 << QString();
     }

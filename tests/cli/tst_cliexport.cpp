@@ -28,11 +28,13 @@ private Q_SLOTS:
             << QStringList{u".dat"_s, u"_Details.dat"_s, u".txt"_s, u"_Details.txt"_s, u".html"_s, u"_Details/3.html"_s}
             << u"Valdorin Heftromane Nummer 1-3 (3 Einträge)"_s;
         QTest::newRow("text of a filter")
-            << QStringList{u"Nr:GRÖßER:1"_s, u"--format"_s, u"txt"_s} << 0
-            << u"Es wurden 2/0 Einträge exportiert.\nVerwendete Dateinamen:\n %1.txt\nErzeugte Dateigrößen:\n "_s
-            << QStringList{u".txt"_s} << u"Valdorin Heftromane gefiltert nach: Nummer größer als 1  (2 Einträge)"_s;
+            << QStringList{u"Nr:GRÖßER:2"_s, u"--format"_s, u"txt"_s} << 0
+            << u"Es wurde 1/0 Eintrag exportiert.\nVerwendete Dateinamen:\n %1.txt\nErzeugte Dateigrößen:\n "_s
+            << QStringList{u".txt"_s} << u"Valdorin Heftromane gefiltert nach: Nummer größer als 2  (1 Eintrag)"_s;
         QTest::newRow("nothing found") << QStringList{u"--format"_s, u"txt"_s, u"Nr:IST:9"_s} << 0
                                        << u"Zu den gegebenen Filter-Kriterien"_s << QStringList() << QString();
+        QTest::newRow("no format") << QStringList{u"--format"_s, u","_s} << 2 << QString() << QStringList()
+                                   << QString();
         QTest::newRow("unknown format") << QStringList{u"--format"_s, u"pdf"_s} << 2 << QString() << QStringList()
                                         << QString();
         QTest::newRow("bad criterion") << QStringList{u"--format"_s, u"dat"_s, u"Nr:ÄHNLICH"_s} << 2 << QString()

@@ -53,6 +53,8 @@ private Q_SLOTS:
             << QStringList() << true << 0
             << u"== Bericht über Valdorin Zyklen Import ==\nEs wurde 1 Datensatz in die Datenbank importiert."_s
             << u"SELECT COUNT(*) FROM HEFTLIST;"_s << u"2"_s;
+        QTest::newRow("two files") << u"neu.dat"_s << list + Line1 << QStringList{u"zwei.dat"_s} << false << 2
+                                   << QString() << u"SELECT COUNT(*) FROM HEFTLIST;"_s << u"2"_s;
         QTest::newRow("unknown mode") << u"neu.dat"_s << list << QStringList{u"--mode"_s, u"3"_s} << false << 2
                                       << QString() << u"SELECT COUNT(*) FROM HEFTLIST;"_s << u"2"_s;
     }

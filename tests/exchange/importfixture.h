@@ -22,8 +22,8 @@ inline QString Fields(const QStringList& values) {
     return line;
 }
 
-// A details line: Nr, date, subtitle, Person1 (the other eight empty),
-// content, the five design fields, then `rest` as it stands.
+// A details line up to its design fields: Nr, date, subtitle, Person1 (the
+// other eight empty), content, the five design fields.
 inline QString DetailsFields(const QString& nr, const QString& date, const QString& untertitel,
                              const QString& person1, const QString& inhalt, const QStringList& design) {
     QStringList values{nr, date, untertitel, person1};

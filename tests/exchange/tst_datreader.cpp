@@ -26,18 +26,22 @@ private Q_SLOTS:
         QTest::addColumn<bool>("gelesen");
         QTest::addColumn<QString>("bemerkung");
 
-        const QString a30 = u"Hanno Velden und Kurt Brandis"_s + u'!';
-        QTest::newRow("author cut to 25") << line(a30, u"T"_s, u"1"_s, u"I"_s, u"Ja"_s, u"x"_s) << a30.left(25)
-                                          << u"T"_s << 1 << u"I"_s << true << u"x"_s;
+        // Each text at its limit is taken whole, one more character is cut;
+        // the cycle is cut before it is tested for a roman numeral.
+        const auto limits = [](int more) {
+            return line(QString(25 + more, u'a'), QString(50 + more, u't'), u"1"_s, u"mmmdcccl9"_s.left(8 + more),
+                        u"Ja"_s, QString(64 + more, u'b'));
+        };
+        for (int more : {0, 1})
+            QTest::newRow(more ? "texts one beyond their limits" : "texts at their limits")
+                << limits(more) << QString(25, u'a') << QString(50, u't') << 1 << u"MMMDCCCL"_s << true
+                << QString(64, u'b');
         QTest::newRow("lower-case cycle") << line(u"A"_s, u"T"_s, u"2"_s, u"xiv"_s, u"JA"_s, QString()) << u"A"_s
                                           << u"T"_s << 2 << u"XIV"_s << true << QString();
         QTest::newRow("digits are no cycle") << line(u"A"_s, u"T"_s, u"2"_s, u"14"_s, u"Nein"_s, QString())
                                              << u"A"_s << u"T"_s << 2 << u"- - -"_s << false << QString();
         QTest::newRow("empty cycle") << line(u"A"_s, u"T"_s, QString(), QString(), QString(), QString()) << u"A"_s
                                      << u"T"_s << 0 << u"- - -"_s << false << QString();
-        QTest::newRow("cycle cut before the test") << line(u"A"_s, u"T"_s, u"1"_s, u"MMMDCCCLXXXVIII"_s,
-                                                           u"x"_s, QString())
-                                                   << u"A"_s << u"T"_s << 1 << u"MMMDCCCL"_s << false << QString();
         QTest::newRow("printing above the maximum") << line(u"A"_s, u"T"_s, u"6"_s, u"I"_s, u"x"_s, QString())
                                                     << u"A"_s << u"T"_s << 0 << u"I"_s << false << QString();
         QTest::newRow("printing read by Val") << line(u"A"_s, u"T"_s, u"3. Aufl."_s, u"I"_s, u"x"_s, QString())
@@ -81,26 +85,6 @@ private Q_SLOTS:
         QCOMPARE(r.Bemerkung, u"Gut"_s);
     }
 
-    void goodListLines_data()
-    {
-        QTest::addColumn<QString>("line");
-        QTest::addColumn<unsigned>("bits");
-        QTest::newRow("complete") << line(u"A"_s, u"T"_s, u"1"_s, u"I"_s, u"Ja"_s, u"x"_s) << 127u;
-        // The title is cut at ";" and needs the next field's opening quote.
-        QTest::newRow("three fields only") << u"\"2\";\"B\";\"U\";"_s << 3u;
-        QTest::newRow("no separator at all") << u"Kaputt"_s << 0u;
-        QTest::newRow("empty author is still read") << u"\"2\";\"\";\"U\";\"1\";\"I\";\"Ja\";\"\";"_s << 127u;
-    }
-    void goodListLines()
-    {
-        QFETCH(QString, line);
-        QFETCH(unsigned, bits);
-        ListReader reader;
-        const ListRecord& r = reader.Read(line);
-        QCOMPARE(r.Bits, bits);
-        QCOMPARE(r.IsGood(), (bits & GoodListBits) == GoodListBits);
-    }
-
     void cycleLines_data()
     {
         QTest::addColumn<QString>("line");
@@ -110,11 +94,21 @@ private Q_SLOTS:
                                   << true
                                   << QStringList{u"XII"_s, u"801"_s, u"850"_s, u"-1200"_s, u"-1150"_s,
                                                  u"Die Nebelkriege"_s, u"Aufbruch"_s};
-        QTest::newRow("limits") << u"\"XXXVIIIII\";\"123456\";\"9\";\"1\";\"2\";\""_s + QString(55, u'b') +
-                                       u"\";\""_s + QString(55, u'g') + u"\";"_s
-                                << true
-                                << QStringList{u"XXXVIIII"_s, u"12345"_s, u"9"_s, u"1"_s, u"2"_s, QString(50, u'b'),
-                                               QString(50, u'g')};
+        // The cycle's limit of nine counts its opening quote.
+        const auto limits = [](int more) {
+            QString text;
+            for (const QString& value : {u"XXXVIIIII"_s.left(8 + more), u"123456"_s.left(5 + more),
+                                         u"543210"_s.left(5 + more), u"1"_s, u"2"_s, QString(50 + more, u'b'),
+                                         QString(50 + more, u'g')})
+                text += DatField(value);
+            return text;
+        };
+        for (int more : {0, 1})
+            QTest::newRow(more ? "texts one beyond their limits" : "texts at their limits")
+                << limits(more) << true
+                << QStringList{u"XXXVIIII"_s, u"12345"_s, u"54321"_s, u"1"_s, u"2"_s, QString(50, u'b'),
+                               QString(50, u'g')};
+        QTest::newRow("no separator at all") << u"Kaputt"_s << false << QStringList(7);
         // Bezeichnung finds no ";" and stays as it was; the failed cut still
         // takes two characters off the rest, and the last field reads "z".
         QTest::newRow("six fields are not enough") << u"\"I\";\"1\";\"50\";\"2040\";\"2050\";\"Bez\";"_s << false
@@ -131,31 +125,6 @@ private Q_SLOTS:
         QCOMPARE(r.IsGood(), good);
         QCOMPARE((QStringList{r.Zyklus, r.NrVon, r.NrBis, r.ZeitVon, r.ZeitBis, r.Bezeichnung, r.Zyklusbereich}),
                  values);
-    }
-
-    void detailsLine()
-    {
-        DetailsReader reader({5, 20});
-        const QString persons = u"\"Tarvin\";\"Mela\";\"A234567890123456789012345678901234\";\"\";\"\";\"\";\"\";\"\";\"\";"_s;
-        QString text = u"\"17\";\"1961-12-29\";\"Der Untertitel\";"_s + persons +
-                       u"\"Ein Inhalt, der zu lang ist.\";\"Tibi\";\"Illu\";\"JA\";\"Kreuzer\";\"Rize\";"_s;
-        for (int e = 1; e <= StatusCount; ++e)
-            text += DatField(e == 10 ? u"0000064"_s : u"S%1"_s.arg(e));
-        text += u"\"16\";\"Fortsetzung von Band 16\";\"Valdorin Heftromane\";\"3\";\"Vorlage\";\"Valdorin Taschenbücher\";"_s;
-        const DetailsRecord& r = reader.Read(text);
-        QVERIFY(r.IsGood());
-        QCOMPARE(r.Nr, u"17"_s);
-        QCOMPARE(r.Persons[1], u"Mela"_s);
-        QCOMPARE(r.Persons[2].size(), 32);
-        QCOMPARE(r.Inhalt, u"Ein Inhalt, der zu l"_s);
-        QVERIFY(r.Rz);
-        QCOMPARE(r.RiZeZeichner, u"Rize"_s);
-        QVERIFY(r.HasStatus);
-        QCOMPARE(r.Status[9], u"0000064"_s);
-        QCOMPARE(r.Status[18], u"S19"_s);
-        QCOMPARE(r.LinksRead, 2);
-        QCOMPARE(r.Links[0].Num, 16);
-        QCOMPARE(r.Links[1].Serie, u"Valdorin Taschenbücher"_s);
     }
 
     void linkCount_data()
@@ -222,21 +191,6 @@ private Q_SLOTS:
     {
         QFETCH(QString, line);
         QTEST(KindOfHeader(line, u"Valdorin"_s, u"Heftromane"_s), "kind");
-    }
-
-    // Dates go out in ISO form where they can be read.
-    void writtenDates_data()
-    {
-        QTest::addColumn<QString>("stored");
-        QTest::addColumn<QString>("written");
-        QTest::newRow("german") << u"8.9.1961"_s << u"1961-09-08"_s;
-        QTest::newRow("month name from the web") << u"2006-Oktober-05"_s << u"2006-10-05"_s;
-        QTest::newRow("no date stays") << u"Herbst 1962"_s << u"Herbst 1962"_s;
-    }
-    void writtenDates()
-    {
-        QFETCH(QString, stored);
-        QTEST(FormatDatDate(stored), "written");
     }
 
 private:

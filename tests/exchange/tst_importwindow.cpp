@@ -57,12 +57,13 @@ class TestImportWindow : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    // A list file with two refused lines, both reports showing.
+    // A list file of more lines than one batch holds, with two refused
+    // lines, both reports showing.
     void importsAndReports()
     {
         WindowFixture w;
         QDir().mkpath(w.f.collection.dir.filePath(u"neu"_s));
-        QStringList lines = ListLines(3, 6);
+        QStringList lines = ListLines(3, 120);
         lines.insert(2, u"\"20\";\"Abgeschnitten"_s);
         lines << Fields({u"1"_s, u"Ada Quell"_s, u"Nebelhafen"_s, u"1"_s, u"II"_s, u"Ja"_s, u"schon da"_s});
         w.chosen = w.f.Write(u"neu/liste.dat"_s, u"[Valdorin Heftromane]"_s, lines);
@@ -70,9 +71,10 @@ private Q_SLOTS:
 
         QCOMPARE(w.dialog->ImportFolder(), w.f.collection.dir.filePath(u"neu"_s));
         QCOMPARE(w.Child<QGroupBox>(u"frm_bericht"_s)->title(), u"Bericht über Valdorin Heftromane Import"_s);
-        QVERIFY(w.Text(u"txt_bericht"_s).startsWith(u"Es wurden 6 Datensätze in die Datenbank importiert."_s));
+        QVERIFY(w.Text(u"txt_bericht"_s).startsWith(u"Es wurden 120 Datensätze in die Datenbank importiert."_s));
         QVERIFY(w.Text(u"txt_fehler"_s).startsWith(u"2 Datensätze konnten nicht importiert werden."_s));
-        QCOMPARE(w.window.List().Heftliste.Rows() - 1, 8);
+        QCOMPARE(w.f.Rows(u"SELECT COUNT(*) FROM HEFTLIST;"_s), u"122"_s);
+        QCOMPARE(w.window.List().Heftliste.Rows() - 1, 122);
         QVERIFY(w.window.findChild<QWidget*>(u"fg_heftliste"_s)->isEnabled());
         QCOMPARE(w.window.StatusPanelText(5), u"Fertig und Bereit."_s);
     }
@@ -80,6 +82,9 @@ private Q_SLOTS:
     void escape()
     {
         WindowFixture w;
+        QTest::mouseClick(w.Child<QPushButton>(u"btn_choose"_s), Qt::LeftButton);
+        QCOMPARE(w.Text(u"txt_bericht"_s), u"Keine Import Datei ausgewählt."_s);
+        QCOMPARE(w.Text(u"txt_fehler"_s), u"Keine Fehler."_s);
         w.chosen = w.f.Write(u"liste.dat"_s, u"[Valdorin Heftromane]"_s, ListLines(3, 5));
         // The Esc waits in the queue until the import lets events run after
         // its first line.
@@ -89,8 +94,17 @@ private Q_SLOTS:
         QVERIFY(w.Text(u"txt_bericht"_s).startsWith(u"Es wurde 1 Datensatz in die Datenbank importiert."_s));
         QCOMPARE(w.f.Rows(u"SELECT COUNT(*) FROM HEFTLIST;"_s), u"3"_s);
 
+        QTest::keyClick(w.dialog.get(), Qt::Key_Space);
+        QVERIFY(w.dialog->isVisible());
         QTest::keyClick(w.dialog.get(), Qt::Key_Escape);
         QVERIFY(!w.dialog->isVisible());
+
+        // The menu command opens the window modally.
+        ModalScript script(u"frm_import"_s);
+        script.Then([](QDialog& dialog) { dialog.reject(); });
+        InstallImportWindow(w.window);
+        w.window.Command(u"mnu_import"_s)->trigger();
+        QCOMPARE(script.opened, 1);
     }
 };
 

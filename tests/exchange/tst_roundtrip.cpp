@@ -24,9 +24,13 @@ QString Dump(TempCollection& c, const QString& table) {
     return ImportFixture::Rows(*c.session.CollectionDb, u"SELECT * FROM %1 ORDER BY %2;"_s.arg(table, order));
 }
 
+// Without a place only the price is filled; with one every attribute holds
+// a value of its own, so that each must come back under its number.
 void AddStatus(TempCollection& c, int nr, const QString& lagerort) {
     for (int enumber = 1; enumber <= StatusCount; ++enumber) {
-        const QString value = enumber == 7 ? lagerort : enumber == 5 ? u"0012.50"_s : QString();
+        QString value = enumber == 5 ? u"0012.50"_s : QString();
+        if (!lagerort.isEmpty())
+            value = enumber == 7 ? lagerort : u"Wert %1 für ''%2''"_s.arg(enumber).arg(nr);
         c.Exec(u"INSERT INTO Status VALUES (%1, %2, '%3');"_s.arg(nr).arg(enumber).arg(value));
     }
 }

@@ -130,7 +130,6 @@ private Q_SLOTS:
         QTest::addColumn<int>("issues");
         const QString page = u"/wiki/Quelle:VN2402"_s, cover = u"/wiki/Datei:VN2402.jpg"_s;
         const QByteArray link = "<div class=\"fullImageLink\"><a href=\"";
-        QTest::newRow("404") << page << 404 << QByteArray("<html/>") << 0 << 2403 << 0 << "URL öffnen" << 1;
         QTest::newRow("no persons") << page << 200 << QByteArray("@Hauptpersonen:") << 0 << 2403 << 0 << "Personen" << 1;
         QTest::newRow("oversized") << page << 200 << QByteArray(20 * 1024 * 1024 + 1, 'x') << 0 << 2403 << 0 << "URL öffnen" << 1;
         QTest::newRow("slow") << page << 200 << QByteArray("@") << 1500 << 2403 << 0 << "URL öffnen" << 1;
