@@ -10,6 +10,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QClipboard>
+#include <QComboBox>
 #include <QDateEdit>
 #include <QGroupBox>
 #include <QLineEdit>
@@ -177,6 +178,42 @@ private Q_SLOTS:
                          "USING (Nr) WHERE Nr=4;"_s),
                  u"01.03.2009ErbeKapitän LornJo O'Kell"_s);
         QVERIFY(f.collection.prompter.asked.isEmpty());
+    }
+
+    // A stored design with a cutaway drawing shows in both modes; each tab
+    // shows its own sections, and the content box can take the whole frame.
+    void storedDesignShown_data()
+    {
+        QTest::addColumn<bool>("edit");
+        QTest::newRow("edit") << true;
+        QTest::newRow("view") << false;
+    }
+    void storedDesignShown()
+    {
+        QFETCH(bool, edit);
+        Fixture f;
+        f.collection.Exec(u"INSERT INTO Gestaltung (Nr, TiBiZeichner, IlluZeichner, RZ, RiZeZeichner, RiZeObjekt) "
+                          "VALUES (2, 'Jo Kell', 'Ann Vo', -1, 'Rudi Lenz', 'Kreuzer');"_s);
+        const auto w = f.Open(2, edit);
+        QStringList shown;
+        for (const QString& name : {u"tibi"_s, u"illu"_s, u"rize"_s})
+            shown << (edit ? Child<QComboBox>(*w, u"cmb_"_s + name)->currentText()
+                           : Child<QLineEdit>(*w, u"txt_"_s + name)->text());
+        shown << Child<QLineEdit>(*w, u"txt_objekt"_s)->text();
+        QCOMPARE(shown, (QStringList{u"Jo Kell"_s, u"Ann Vo"_s, u"Rudi Lenz"_s, u"Kreuzer"_s}));
+        QVERIFY(Child<QCheckBox>(*w, u"chk_rize"_s)->isChecked());
+
+        auto* tabs = Child<QTabWidget>(*w, u"tab_detail"_s);
+        for (int tab : {3, 2, 1, 0}) {
+            tabs->setCurrentIndex(tab);
+            QCOMPARE(Child<QGroupBox>(*w, u"frm_det"_s)->isVisible(), tab == 0);
+            QCOMPARE(Child<QGroupBox>(*w, u"frm_kg"_s)->isVisible(), tab == 1);
+        }
+        QWidget* head = Child<QWidget>(*w, u"pnl_kopf"_s);
+        Click(*w, u"pic_max"_s);
+        QVERIFY(!head->isVisible());
+        Click(*w, u"pic_max"_s);
+        QVERIFY(head->isVisible());
     }
 
     void closing_data()

@@ -9,10 +9,12 @@
 #include "filter/ui/filtermode.h"
 #include "mainwin/listfixture.h"
 #include "mainwin/ui/mainwindow.h"
+#include "mainwin/ui/statusbar.h"
 
 #include <QAction>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTest>
 
@@ -230,6 +232,17 @@ private Q_SLOTS:
         QCOMPARE(list.Filter.ColWidth(ColTitel), 4321);
         QCOMPARE(f.window.StatusPanelText(5), u"Fertig und Bereit [Filter ist AKTIV]."_s);
         CheckCommands(f, true);
+
+        // A click on the filter panel shows the condition in force.
+        ModalScript shown(u"frm_smfilter"_s);
+        QString condition;
+        shown.Then([&](QDialog& dialog) {
+            condition = Child<QPlainTextEdit>(dialog, u"txt_filter"_s)->toPlainText();
+            dialog.reject();
+        });
+        auto* bar = f.window.findChild<StatusBar*>();
+        QTest::mouseClick(bar->childAt(bar->PanelGeometry(6).center()), Qt::LeftButton);
+        QCOMPARE(condition, u"Autor = 'Ada Quell' "_s);
 
         f.Command(command)->trigger();
         QVERIFY(!f.window.IsFilterMode());

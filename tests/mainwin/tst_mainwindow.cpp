@@ -2,7 +2,9 @@
 #include "testmain.h"
 
 #include "mainwin/ui/mainwindow.h"
+#include "mainwin/ui/statusbar.h"
 
+#include <QApplication>
 #include <QHeaderView>
 #include <QSignalSpy>
 #include <QTableView>
@@ -61,6 +63,51 @@ private Q_SLOTS:
         // Other windows remove entries through the session.
         collection.session.RemoveEntryRows(5);
         QCOMPARE(heftliste->model()->rowCount(), 11);
+    }
+
+    // What mouse and keys do in the list and the status bar: a header click
+    // sorts by its column, a click on a cycle names its number, Enter and a
+    // double click edit, the right button takes the row and opens the popup
+    // menu.
+    void gridMouseAndKeys()
+    {
+        TempCollection collection;
+        collection.Add(Entries(5));
+        MainWindow window;
+        window.LoadList(collection.session);
+        QStringList ran;
+        for (const QString& name : {u"mnu_edit"_s, u"mnu_goto"_s, u"mnu_help"_s})
+            window.SetCommandHandler(name, [&ran, name] { ran << name; });
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        auto* view = Child<QTableView>(window, u"fg_heftliste"_s);
+        const EntryGrid& grid = window.List().Heftliste;
+        const auto cell = [view](int row, int col) { return view->visualRect(view->model()->index(row, col)).center(); };
+
+        QHeaderView* header = view->horizontalHeader();
+        QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, QPoint(header->sectionViewportPosition(ColAuflage) + 4, 4));
+        // A new column sorts downward first.
+        QCOMPARE(NrColumn(grid), (QStringList{u"3"_s, u"2"_s, u"1"_s, u"5"_s, u"4"_s}));
+        QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, cell(1, ColZyklus));
+        QCOMPARE(grid.ToolTip(), u"Zyklus = 4"_s);
+        QCOMPARE(window.StatusPanelText(3), u"2/5"_s);
+
+        QTest::keyClick(view, Qt::Key_Return);
+        QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, cell(2, ColTitel));
+        QTest::mouseDClick(view->viewport(), Qt::LeftButton, {}, cell(2, ColTitel));
+        QCOMPARE(ran, (QStringList{u"mnu_edit"_s, u"mnu_edit"_s}));
+
+        // The lock panels only show their keys; the selection panel goes to
+        // an entry, the status panel to the help.
+        auto* bar = window.findChild<StatusBar*>();
+        for (int panel : {1, 3, 5})
+            QTest::mouseClick(bar->childAt(bar->PanelGeometry(panel).center()), Qt::LeftButton);
+        QCOMPARE(ran.mid(2), (QStringList{u"mnu_goto"_s, u"mnu_help"_s}));
+
+        QTest::mouseClick(view->viewport(), Qt::RightButton, {}, cell(4, ColTitel));
+        QCOMPARE(grid.TextMatrix(grid.Row(), ColNr), u"4"_s);
+        QTRY_VERIFY(QApplication::activePopupWidget() != nullptr);
+        QApplication::activePopupWidget()->close();
     }
 
     void removeEntryRows()
