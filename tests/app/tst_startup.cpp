@@ -31,7 +31,8 @@ void MakeAllUsersFolder(const QString& root)
         db->Execute(u"INSERT INTO HEFTLIST VALUES (1, 'A', '%1', 0, 'I', 0, '');"_s.arg(QStringView(file)));
     }
     QVERIFY(CreateCycleFile(root + u"/DBs/Valdorin Zyklus.mdb"_s, &error));
-    for (const char16_t* file : {u"bm/Logo.svg", u"bm/Splash.svg", u"DBs/Heftarium.marker"})
+    for (const char16_t* file : {u"bm/Logo.svg", u"bm/Splash.svg", u"DBs/Heftarium.marker", u"Archiv/HEFT0001.HTM",
+                                 u"tibis/Valdorin (Heftromane)/0001.jpg"})
         heft::test::WriteFile(root + u'/' + QStringView(file));
 }
 
@@ -77,8 +78,12 @@ private Q_SLOTS:
     {
         Session session;
         ScriptedPrompter prompter;
+        // A sample the user has already is kept; the others come along.
+        heft::test::WriteFile(Data() + u"/Archiv/HEFT0001.HTM"_s, "mein");
         QVERIFY(Start(session, prompter));
         QCOMPARE(session.DataFolder, Data());
+        QCOMPARE(QFileInfo(Data() + u"/Archiv/HEFT0001.HTM"_s).size(), 4);
+        QVERIFY(QFileInfo::exists(Data() + u"/tibis/Valdorin (Heftromane)/0001.jpg"_s));
         int folders = 0;
         for (QDirIterator it(m_user, QDir::Dirs | QDir::NoDotAndDotDot,
                              QDirIterator::Subdirectories);

@@ -139,6 +139,9 @@ private Q_SLOTS:
         QTest::newRow("content pasted with line breaks") << u"txt_inhalt"_s << u"Erste Zeile\nzweite Zeile\rdritte"_s
                                                          << u"Details.Inhalt"_s << u"Erste Zeile zweite Zeile dritte"_s;
         QTest::newRow("person") << u"cmb_floatP"_s << u"D'Arcy Vell"_s << u"Details.Person3"_s << u"D'Arcy Vell"_s;
+        QTest::newRow("person edited in place, trimmed and cut")
+            << u"liv_personen"_s << u"  Bartholomew von Eichenhain-Lornberg"_s << u"Details.Person3"_s
+            << u"Bartholomew von Eichenhain-Lornb"_s;
         QTest::newRow("drawn object") << u"txt_objekt"_s << u"Kreuzer 'Stella'"_s << u"Gestaltung.RiZeObjekt"_s
                                       << u"Kreuzer 'Stella'"_s;
     }
@@ -155,6 +158,14 @@ private Q_SLOTS:
         const auto w = f.Open(4, true);
         if (control == u"cmb_floatP"_s) {
             DoubleClickPerson(*w, 2);
+        } else if (control == u"liv_personen"_s) {
+            // Shift+Enter edits the name in the list itself.
+            Persons(*w)->setCurrentItem(Persons(*w)->topLevelItem(2));
+            QTest::keyClick(Persons(*w), Qt::Key_Return, Qt::ShiftModifier);
+            QTest::keyClicks(QApplication::focusWidget(), typed);
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+            // The item view takes the name on its next round.
+            QTRY_COMPARE(Persons(*w)->topLevelItem(2)->text(0), stored);
         } else if (control == u"txt_objekt"_s) {
             Child<QTabWidget>(*w, u"tab_detail"_s)->setCurrentIndex(1);
             Click(*w, u"chk_rize"_s);
@@ -164,7 +175,7 @@ private Q_SLOTS:
             QApplication::clipboard()->setText(typed);
             Child<QWidget>(*w, control)->setFocus();
             QTest::keySequence(Child<QWidget>(*w, control), QKeySequence::Paste);
-        } else {
+        } else if (control != u"liv_personen"_s) {
             TypeInto(*w, control, typed);
         }
         QPushButton* save = Child<QPushButton>(*w, u"btn_ok"_s);
