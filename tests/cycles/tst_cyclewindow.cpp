@@ -13,6 +13,8 @@
 #include "mainwin/ui/mainwindow.h"
 
 #include <QAction>
+#include <QApplication>
+#include <QContextMenuEvent>
 #include <QDialog>
 #include <QDir>
 #include <QFile>
@@ -191,6 +193,14 @@ private Q_SLOTS:
         QCOMPARE(f.CycleValue(u"SELECT Zyklusbereich FROM ZyklusListe WHERE Zyklus='II';"_s), u"Der Kaiser's Zeit"_s);
         QCOMPARE(Line(grid, 1), (QStringList{u"2"_s, u"II"_s, u"51"_s, u"99"_s, u"-15"_s, u"20"_s, u"Ka'Rell"_s,
                                              u"Der Kaiser's Zeit"_s}));
+        // The right button takes the line and opens the popup menu.
+        const QPoint first = grid.visualItemRect(grid.item(0, 3)).center();
+        QContextMenuEvent click(QContextMenuEvent::Mouse, first, grid.viewport()->mapToGlobal(first));
+        QApplication::sendEvent(grid.viewport(), &click);
+        QCOMPARE(grid.currentRow(), 0);
+        QTRY_VERIFY(QApplication::activePopupWidget() != nullptr);
+        QApplication::activePopupWidget()->close();
+        grid.SelectCycle(1);
         // The last cycle goes after Yes only; the first one can't go.
         f.collection.prompter.answers = {Answer::No, Answer::Yes};
         for (int press = 0; press < 2; ++press)
@@ -199,6 +209,28 @@ private Q_SLOTS:
         QCOMPARE(f.CycleValue(u"SELECT GROUP_CONCAT(Zyklus) FROM ZyklusListe;"_s), u"I"_s);
         QCOMPARE(grid.CycleCount(), 1);
         QVERIFY(!f.Action(*w, u"zmnu_delete"_s)->isEnabled());
+    }
+
+    // A cycle file that is not open or can't be read: a message, no window.
+    void loadFailures_data()
+    {
+        QTest::addColumn<bool>("fileOpen");
+        QTest::addColumn<QString>("title");
+        QTest::newRow("not open") << false << u"Probleme beim Öffnen der Zyklus-DB"_s;
+        QTest::newRow("unreadable") << true << u"Probleme beim Lesen der Zyklus-DB"_s;
+    }
+    void loadFailures()
+    {
+        QFETCH(bool, fileOpen);
+        QFETCH(QString, title);
+        Fixture f;
+        if (fileOpen)
+            QVERIFY(!f.session().CycleDb->Execute(u"DROP TABLE ZyklusListe;"_s));
+        else
+            f.session().CycleDb.reset();
+        QVERIFY(!f.Open());
+        QCOMPARE(f.collection.prompter.asked.size(), 1);
+        QCOMPARE(f.collection.prompter.asked[0].title, title);
     }
 
     void exportFile_data()
@@ -249,6 +281,12 @@ private Q_SLOTS:
         QTest::newRow("900 to 1000") << QStringList{u"V"_s, u"900"_s, u"1000"_s, u""_s, u""_s, u"T"_s, u""_s}
                                      << int(CycleBox::NrVon)
                                      << QStringList{u"V"_s, u"1000"_s, u"1000"_s, u""_s, u""_s, u"T"_s, u""_s};
+        QTest::newRow("empty to") << QStringList{u"V"_s, u"5"_s, u""_s, u""_s, u""_s, u"T"_s, u""_s}
+                                  << int(CycleBox::NrBis)
+                                  << QStringList{u"V"_s, u"5"_s, u"0"_s, u""_s, u""_s, u"T"_s, u""_s};
+        QTest::newRow("empty last year")
+            << QStringList{u"V"_s, u"5"_s, u"6"_s, u"1"_s, u""_s, u"T"_s, u""_s} << int(CycleBox::ZeitBis)
+            << QStringList{u"V"_s, u"5"_s, u"6"_s, u"1"_s, u"0"_s, u"T"_s, u""_s};
         QTest::newRow("empty first year")
             << QStringList{u"V"_s, u"5"_s, u"6"_s, u""_s, u""_s, u"T"_s, u""_s} << int(CycleBox::ZeitVon)
             << QStringList{u"V"_s, u"5"_s, u"6"_s, u"0"_s, u""_s, u"T"_s, u""_s};
