@@ -145,6 +145,10 @@ private Q_SLOTS:
         const QStringList authorLike = {u"0:field=Autor"_s, u"0:ver=ÄHNLICH"_s};
         QTest::newRow("author like, nothing typed") << authorLike << false;
         QTest::newRow("author like, typed") << authorLike + QStringList{u"0:type=Q"_s} << true;
+        QTest::newRow("list, yes/no and date fields need no typing")
+            << QStringList{u"0:field=Auflage"_s, u"0:logic=UND"_s, u"1:field=Gelesen"_s, u"1:logic=ODER"_s,
+                           u"2:field=Datum"_s}
+            << true;
     }
     void enabling()
     {
