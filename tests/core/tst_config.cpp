@@ -38,7 +38,6 @@ private Q_SLOTS:
         DbError error;
         QVERIFY(ReadConfiguration(collection.session, &error));
         QVERIFY(collection.session.Config.SeriesName.isEmpty());
-        QVERIFY(collection.session.Config.SplashFile.isEmpty());
 
         collection.Exec(u"DROP TABLE KONFIGURATION;"_s);
         QVERIFY(!ReadConfiguration(collection.session, &error));

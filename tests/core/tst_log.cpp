@@ -32,9 +32,6 @@ private Q_SLOTS:
         QTest::newRow("info") << 0 << u"Programmdaten in /home/ä"_s
                               << "[Info]\r\nProgrammdaten in /home/\xc3\xa4\r\n"_ba;
         QTest::newRow("config") << 10 << u"FB=1\r\nFH=2"_s << "\r\n[Konfig]\r\nFB=1\r\nFH=2\r\n"_ba;
-        QTest::newRow("error shows the last SQL")
-            << 3022 << u"Doppelter Eintrag"_s
-            << "DELETE FROM HEFTLIST;\r\n[Fehler 3022]\r\nDoppelter Eintrag\r\n"_ba;
         QTest::newRow("line breaks become CR LF")
             << -1 << u"Beschreibung\nSELECT 1;\rEnde"_s
             << "DELETE FROM HEFTLIST;\r\n[Fehler -1]\r\nBeschreibung\r\nSELECT 1;\r\nEnde\r\n"_ba;
@@ -59,7 +56,6 @@ private Q_SLOTS:
         const QList<int> unchanged = {9000, 6000, 100, 200};
         QTest::newRow("all taken") << "[Konfig]\r\nFB=12000\r\nFH=8000\r\nFX=300\r\nFY=400\r\n"_ba
                                    << QList<int>{12000, 8000, 300, 400};
-        QTest::newRow("no config entry") << "[Info]\r\nFB=12000\r\nFX=300\r\n"_ba << unchanged;
         QTest::newRow("too narrow") << "[Konfig]\r\nFB=8999\r\n"_ba << unchanged;
         QTest::newRow("wider than the screen") << "[Konfig]\r\nFB=20001\r\n"_ba << unchanged;
         QTest::newRow("left keeps the new width on screen")

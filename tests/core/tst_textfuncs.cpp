@@ -16,14 +16,11 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("text");
         QTest::addColumn<double>("expected");
-        QTest::newRow("empty") << QString() << 0.0;
-        QTest::newRow("trailing text") << u"12abc"_s << 12.0;
         QTest::newRow("leading blanks, tab, line feed") << u" \t\n42"_s << 42.0;
         QTest::newRow("blanks inside") << u"1 615 198th Street"_s << 1615198.0;
         QTest::newRow("leading CR is not skipped") << u"\r5"_s << 0.0;
         QTest::newRow("sign") << u"-17"_s << -17.0;
         QTest::newRow("comma stops") << u"240,1"_s << 240.0;
-        QTest::newRow("exponent") << u"1.5E3"_s << 1500.0;
         QTest::newRow("exponent D, negative") << u"25d-1"_s << 2.5;
         QTest::newRow("hex 16-bit wraps") << u"&HFFFF"_s << -1.0;
         QTest::newRow("octal") << u"&O17"_s << 15.0;
@@ -60,7 +57,6 @@ private Q_SLOTS:
         QTest::addColumn<double>("b");
         QTest::addColumn<qint64>("quotient");
         QTest::addColumn<qint64>("remainder");
-        QTest::newRow("plain") << 2409.0 << 10.0 << qint64(240) << qint64(9);
         QTest::newRow("negative dividend") << -7.0 << 2.0 << qint64(-3) << qint64(-1);
         QTest::newRow("half rounds to even") << 2.5 << 1.5 << qint64(1) << qint64(0);
         QTest::newRow("divisor 0") << 5.0 << 0.4 << qint64(0) << qint64(0);
@@ -79,9 +75,6 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("text");
         QTest::addColumn<int>("expected");
-        QTest::newRow("empty") << QString() << 0;
-        QTest::newRow("year") << u"MCMXC"_s << 1990;
-        QTest::newRow("subtractive") << u"XLIV"_s << 44;
         QTest::newRow("stops at a non-digit") << u"XIIabc"_s << 12;
         QTest::newRow("previous stays after subtracting") << u"IXC"_s << 107;
     }

@@ -86,7 +86,6 @@ public:
     bool nextIsTag = false;
 };
 
-// The number of the matrix cell at a point of an A4 portrait page.
 int CellNumberAt(QPoint point, int from)
 {
     const double cellWidth = (1900 - 10) / 10.0;
@@ -127,7 +126,6 @@ PrintRequest Request(PrintKind kind, int from, int to, MatrixOptions options = {
     return request;
 }
 
-// The print window as its menu command opens it over the main window.
 struct Fixture {
     TempCollection collection;
     MainWindow main;
@@ -137,9 +135,6 @@ struct Fixture {
     {
         collection.Add({{1, u"Ava"_s, u"Eins"_s, 1}, {2, u"Bo"_s, u"Zwei"_s}, {7, u"Cy"_s, u"Sieben"_s, 2},
                         {230, u"Di"_s, u"Spät"_s, 1}});
-        collection.session.DataFolder = collection.dir.path();
-        collection.session.Config.SeriesName = u"Valdorin"_s;
-        collection.session.Config.ListKind = u"Heftromane"_s;
         main.LoadList(collection.session);
         InstallPrintWindow(main);
         main.Command(u"mnu_print"_s)->trigger();
@@ -163,8 +158,6 @@ private Q_SLOTS:
                           {150, u"Emil"_s, u"Letzter"_s, 1}});
         m_collection.Exec(u"INSERT INTO Status (Nr, ENum, StatusWert) VALUES (1, 3, '2 gut');"_s);
         m_collection.Exec(u"INSERT INTO Status (Nr, ENum, StatusWert) VALUES (5, 4, 'Lager');"_s);
-        m_collection.session.Config.SeriesName = u"Valdorin"_s;
-        m_collection.session.Config.ListKind = u"Heftromane"_s;
     }
 
     void matrixPage_data()
@@ -276,7 +269,6 @@ private Q_SLOTS:
         const int full = linesPerPage[1];
         QCOMPARE(drawing.result, (200 + full - 1) / full);
         QCOMPARE(std::accumulate(linesPerPage.begin(), linesPerPage.end(), 0), 200);
-        QVERIFY(linesPerPage[drawing.result] > 0);
         QVERIFY(drawing.Texts().contains(u"Seite %1 von %1"_s.arg(drawing.result)));
     }
 

@@ -71,8 +71,6 @@ QStringList RowTexts(const ChartData& chart)
     return texts;
 }
 
-// Every statistic in turn through the step buttons, with the choices each
-// offers; Esc closes the window.
 void StepThrough(StatWindow& window)
 {
     auto* stat = Child<QComboBox>(window, u"cmb_stat"_s);
@@ -300,7 +298,6 @@ private Q_SLOTS:
         main.LoadList(c.session);
         InstallStatisticsWindow(main);
         QVERIFY(main.IsCommandEnabled(u"mnu_stat"_s));
-        // The menu command opens the window modal; the steps run inside it.
         ModalScript script(u"frm_stat"_s);
         script.Then([](QDialog& window) { StepThrough(static_cast<StatWindow&>(window)); });
         main.Command(u"mnu_stat"_s)->trigger();
