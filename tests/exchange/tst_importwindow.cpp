@@ -62,7 +62,6 @@ private Q_SLOTS:
     void importsAndReports()
     {
         WindowFixture w;
-        QDir().mkpath(w.f.collection.dir.filePath(u"neu"_s));
         QStringList lines = ListLines(3, 120);
         lines.insert(2, u"\"20\";\"Abgeschnitten"_s);
         lines << Fields({u"1"_s, u"Ada Quell"_s, u"Nebelhafen"_s, u"1"_s, u"II"_s, u"Ja"_s, u"schon da"_s});

@@ -2,11 +2,11 @@
 // with details, imported into an empty collection, and every table compared;
 // then changed files brought in over it with all columns.
 
+#include "exportfixture.h"
 #include "importfixture.h"
 #include "testmain.h"
 
 #include "exchange/exportrun.h"
-#include "mainwin/entryrows.h"
 
 #include <QTest>
 
@@ -56,9 +56,7 @@ void FillSource(TempCollection& c) {
 struct Carrier {
     // The source's full list as .dat pair in the target's folder.
     QString Export() {
-        Query query = source.session.CollectionDb->Select(u"SELECT * FROM HEFTLIST ORDER BY Nr;"_s);
-        ExportList list;
-        list.rows = ReadEntryRows(query, 0);
+        const ExportList list = ExportRows(source);
         const ExportTarget where{target.collection.dir.path(), u"Sammlung"_s};
         ExportOptions options;
         options.csv = true;
