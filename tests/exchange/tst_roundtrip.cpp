@@ -18,7 +18,6 @@ namespace {
 
 const QStringList Tables = {u"HEFTLIST"_s, u"Details"_s, u"Gestaltung"_s, u"Status"_s, u"Links"_s};
 
-// Every row of a table, fields joined by "|", in a fixed order.
 QString Dump(TempCollection& c, const QString& table) {
     const QString order = table == u"Status" || table == u"Links" ? u"Nr, ENum"_s : u"Nr"_s;
     return ImportFixture::Rows(*c.session.CollectionDb, u"SELECT * FROM %1 ORDER BY %2;"_s.arg(table, order));
