@@ -9,7 +9,6 @@
 #include "mainwin/ui/mainwindow.h"
 
 #include <QAction>
-#include <QComboBox>
 #include <QDir>
 #include <QGroupBox>
 #include <QKeyEvent>
