@@ -12,12 +12,6 @@
 using namespace Qt::StringLiterals;
 using namespace heft::test;
 
-namespace {
-
-CliRun Run(const QStringList& arguments) { return RunCliWith(arguments); }
-
-} // namespace
-
 class TestCli : public QObject {
     Q_OBJECT
 
@@ -26,30 +20,30 @@ private Q_SLOTS:
     {
         QTemporaryDir dir;
         const QString db = dir.filePath(u"Neu.mdb"_s);
-        QCOMPARE(Run({u"create"_s, db, u"--series"_s, u"Sternenfahrer"_s, u"--kind"_s, u"Hefte"_s}).code, 0);
+        QCOMPARE(RunCliWith({u"create"_s, db, u"--series"_s, u"Sternenfahrer"_s, u"--kind"_s, u"Hefte"_s}).code, 0);
         // A second create on the same file refuses.
-        QCOMPARE(Run({u"create"_s, db, u"--series"_s, u"X"_s, u"--kind"_s, u"Y"_s}).code, 1);
+        QCOMPARE(RunCliWith({u"create"_s, db, u"--series"_s, u"X"_s, u"--kind"_s, u"Y"_s}).code, 1);
 
         for (int nr : {5, 12})
-            QCOMPARE(Run({u"--db"_s, db, u"sql"_s,
+            QCOMPARE(RunCliWith({u"--db"_s, db, u"sql"_s,
                           u"INSERT INTO HEFTLIST VALUES (%1, 'Ö. Autor', 'T', 0, 'I', 255, NULL);"_s.arg(nr)}),
                      (CliRun{0, u"0\n"_s, QString()}));
-        const CliRun info = Run({u"--db"_s, db, u"info"_s});
+        const CliRun info = RunCliWith({u"--db"_s, db, u"info"_s});
         QCOMPARE(info.out, u"Serie: Sternenfahrer\nListe: Hefte\nEinträge: 2\nNummern: 5 - 12\n"_s);
 
-        const CliRun rows = Run({u"--db"_s, db, u"sql"_s, u"SELECT Nr, Autor, GL, Bemerkung FROM HEFTLIST;"_s});
+        const CliRun rows = RunCliWith({u"--db"_s, db, u"sql"_s, u"SELECT Nr, Autor, GL, Bemerkung FROM HEFTLIST;"_s});
         QCOMPARE(rows.out, u"5\tÖ. Autor\t-1\t<NULL>\n12\tÖ. Autor\t-1\t<NULL>\n"_s);
 
-        const CliRun duplicate = Run({u"--db"_s, db, u"sql"_s,
+        const CliRun duplicate = RunCliWith({u"--db"_s, db, u"sql"_s,
                                       u"INSERT INTO HEFTLIST VALUES (5, 'A', 'T', 0, 'I', 0, '');"_s});
         QCOMPARE(duplicate.code, 1);
         QVERIFY(duplicate.out.startsWith(u"3022 The changes you requested"_s));
 
         // Without its settings table a collection is refused by every command that reads them.
-        QCOMPARE(Run({u"--db"_s, db, u"sql"_s, u"DROP TABLE KONFIGURATION;"_s}).code, 0);
+        QCOMPARE(RunCliWith({u"--db"_s, db, u"sql"_s, u"DROP TABLE KONFIGURATION;"_s}).code, 0);
         for (const QStringList& command : {QStringList{u"info"_s}, {u"import"_s, db},
                                            {u"export"_s, dir.filePath(u"x"_s), u"--format"_s, u"dat"_s}}) {
-            const CliRun refused = Run(QStringList{u"--db"_s, db} + command);
+            const CliRun refused = RunCliWith(QStringList{u"--db"_s, db} + command);
             QCOMPARE(refused.code, 1);
             QVERIFY2(refused.err.startsWith(u"KONFIGURATION nicht lesbar: "_s), qPrintable(refused.err));
         }
@@ -94,7 +88,7 @@ private Q_SLOTS:
         QFETCH(int, code);
         QFETCH(QString, out);
         QFETCH(QString, err);
-        const CliRun run = Run(arguments);
+        const CliRun run = RunCliWith(arguments);
         QCOMPARE(run.code, code);
         QVERIFY2(out.isEmpty() ? run.out.isEmpty() : run.out.contains(out), qPrintable(run.out));
         QVERIFY2(err.isEmpty() ? run.err.isEmpty() : run.err.contains(err), qPrintable(run.err));

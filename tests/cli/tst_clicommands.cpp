@@ -1,8 +1,6 @@
 // The commands that read or change a collection and print what they did:
 // fill (a column over the result of a filter), filter (criteria in the words
-// of the filter window) and stats (the report as the window shows it). Each
-// runs on a small collection of its own; the printed text, the exit code
-// and a query over the collection afterwards.
+// of the filter window) and stats (the report as the window shows it).
 
 #include "clirun.h"
 #include "testmain.h"

@@ -8,19 +8,11 @@
 #include "core/codepage.h"
 #include "core/schema.h"
 
-#include <QFile>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-void WriteFile(const QString& path, const QString& text)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(heft::ToWindows1252(text));
-}
 
 const QString Line1 = u"\"1\";\"A\";\"T\";\"1\";\"I\";\"Nein\";\"\";\r\n"_s;
 
@@ -73,7 +65,7 @@ private Q_SLOTS:
         c.Add({{1, u"Ava Lind"_s, u"Morgensonne"_s, 1, u"I"_s}, {2, u"Bo Kern"_s, u"Nachtflug"_s, 2, u"II"_s}});
         c.Close();
         const QString path = c.dir.filePath(file);
-        WriteFile(path, text);
+        heft::test::WriteFile(path, heft::ToWindows1252(text));
         heft::DbError error;
         if (cycleFile)
             QVERIFY(heft::CreateCycleFile(c.dir.filePath(u"Valdorin Zyklus.mdb"_s), &error));

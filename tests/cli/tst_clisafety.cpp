@@ -61,7 +61,7 @@ class TestCliSafety : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void checkBackupAndRefusedImport()
+    void checkAndBackup()
     {
         QTemporaryDir dir;
         const QString db = Shipped(dir);
@@ -82,19 +82,13 @@ private Q_SLOTS:
         // The copy of before holds what the file held then.
         const QString copy = dir.filePath(u"VN-HR-%1.mdb"_s.arg(QDate::currentDate().toString(u"yyyy-MM-dd"_s)));
         QCOMPARE(Run({u"--db"_s, copy, u"check"_s}), 0);
-        QFile noise(dir.filePath(u"Zufall.dat"_s));
-        QVERIFY(noise.open(QIODevice::WriteOnly) && noise.write(QByteArray(4096, '\x9c')) == 4096);
-        noise.close();
-        QCOMPARE(Run({u"--db"_s, db, u"import"_s, noise.fileName()}), 1);
     }
 
     void hostileValues_data()
     {
         QTest::addColumn<QString>("value");
         QTest::newRow("Apostrophe") << u"O'Neil's ''Heft'' '"_s;
-        QTest::newRow("zweite Anweisung") << u"x'); DELETE FROM HEFTLIST; --"_s;
         QTest::newRow("Zeilenenden") << u"a\r\nb\rc\nd"_s;
-        QTest::newRow("Jokerzeichen") << u"*?#[!a-z]% _"_s;
         QTest::newRow("NUL") << QString(u"vor\0nach"_s);
         QTest::newRow("lang") << QString(10000, u'ß');
         QTest::newRow("Emoji") << u"Start 🚀"_s;

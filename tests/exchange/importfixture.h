@@ -9,7 +9,6 @@
 #include "exchange/importengine.h"
 #include "mainwin/entrylist.h"
 
-#include <QFile>
 #include <QStringList>
 
 namespace heft::test {
@@ -51,8 +50,7 @@ struct ImportFixture {
                            "VALUES (1, '1999-01-02', 'Alter Untertitel', 'Olga', 'Alter Inhalt');"));
         collection.Exec(
             QStringLiteral("INSERT INTO Gestaltung VALUES (1, 'Tibi', 'Illu', 0, 'Objekt', 'Zeichner');"));
-        collection.Exec(QStringLiteral("INSERT INTO Status VALUES (1, 1, 'alt eins');"));
-        collection.Exec(QStringLiteral("INSERT INTO Status VALUES (1, 5, '0000002');"));
+        collection.Exec(QStringLiteral("INSERT INTO Status VALUES (1, 1, 'alt eins'), (1, 5, '0000002');"));
         collection.Exec(QStringLiteral("INSERT INTO Links VALUES (1, 1, 7, 'Alter Link', 'Valdorin');"));
     }
 
@@ -68,12 +66,10 @@ struct ImportFixture {
     // Writes header and lines with CR LF in Windows-1252; returns the path.
     QString Write(const QString& name, const QString& header, const QStringList& lines) const {
         const QString path = collection.dir.filePath(name);
-        QFile file(path);
-        file.open(QIODevice::WriteOnly);
         QString text = header + QStringLiteral("\r\n");
         for (const QString& line : lines)
             text += line + QStringLiteral("\r\n");
-        file.write(ToWindows1252(text));
+        WriteFile(path, ToWindows1252(text));
         return path;
     }
 

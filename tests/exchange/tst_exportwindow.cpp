@@ -14,7 +14,6 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QDir>
-#include <QGroupBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTest>
@@ -63,11 +62,6 @@ void Check(QWidget& dialog, const QString& flags)
         Child<QCheckBox>(dialog, name)->setChecked(flags.contains(flag));
 }
 
-QString Result(QWidget& dialog)
-{
-    return Child<QPlainTextEdit>(dialog, u"txt_result"_s)->toPlainText();
-}
-
 } // namespace
 
 class TestExportWindow : public QObject {
@@ -107,7 +101,7 @@ private Q_SLOTS:
 
         QCOMPARE(QDir(QFileInfo(w.Path(QString())).path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), files);
         QCOMPARE(w.askedFilter, suffix.isEmpty() ? QString() : u"Heftarium-Exportdatei (*.%1)"_s.arg(suffix));
-        QTEST(Result(dialog).section(u'\n', 0, 0), "result");
+        QTEST(Child<QPlainTextEdit>(dialog, u"txt_result"_s)->toPlainText().section(u'\n', 0, 0), "result");
         QCOMPARE(w.collection.prompter.asked.size(), suffix.isEmpty() ? 1 : 0);
         if (suffix.isEmpty())
             QCOMPARE(w.collection.prompter.asked.first().text,

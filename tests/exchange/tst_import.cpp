@@ -46,9 +46,6 @@ private Q_SLOTS:
         QTest::newRow("insert, umlauts and euro")
             << 0 << Fields({u"3"_s, u"Jörg Weiß"_s, u"Größe 5 €"_s, u"2"_s, u"xiv"_s, u"Ja"_s, u"Preis: 5 €"_s})
             << 3 << u"3|Jörg Weiß|Größe 5 €|2|XIV|-1|Preis: 5 €"_s << 0 << 3;
-        QTest::newRow("semicolon in the title shifts the fields")
-            << 0 << Fields({u"4"_s, u"A"_s, u"Ti"_s, u"tel"_s, u"1"_s, u"I"_s, u"Nein"_s, u""_s}) << 4
-            << u"4|A|Ti|0|- - -|0|Nein"_s << 0 << 3;
         QTest::newRow("all columns, the entry then stands twice")
             << 1 << Fields({u"1"_s, u"Neu"_s, u"O'Neill"_s, u""_s, u""_s, u"Nein"_s, u""_s}) << 1
             << u"1|Neu|O'Neill|0|- - -|0|"_s << 0 << 3;
@@ -80,8 +77,6 @@ private Q_SLOTS:
             // sorted again and stands on the line's number.
             QCOMPARE(f.list.Heftliste.TextMatrix(f.list.Heftliste.Row(), ColNr), QString::number(nr));
             QCOMPARE(f.list.Heftliste.TextMatrix(rows, ColNr), QString::number(std::max(nr, 2)));
-        } else {
-            QVERIFY(f.import.Texts().fehler.contains(u"\r\nDB-InsUpd "_s));
         }
     }
 
@@ -105,14 +100,13 @@ private Q_SLOTS:
         const QString sparse =
             DetailsFields(u"1"_s, u""_s, u""_s, u""_s, u""_s, {u""_s, u"I2"_s, u"JA"_s, u""_s, u""_s}) +
             Fields(Status19(u""_s, u"O'Neil"_s)) + Fields({u"12"_s, u"Neuer Link"_s, u"VN"_s, u"13"_s, u"Neu"_s, u""_s});
-        // Every text at its limit (the content limit is the collection's),
-        // or one character beyond it: both store the text at its limit.
-        const auto limits = [](int more) -> QString {
-            const auto text = [more](int limit, char16_t c) { return QString(limit + more, c); };
-            return DetailsFields(u"1"_s, u"2006-10-05"_s, text(128, u'u'), text(32, u'p'), text(200, u'i'),
-                                 {text(64, u't'), text(64, u'l'), u"ja"_s, text(96, u'o'), text(64, u'z')}) +
-                   Fields(Status19(text(128, u's'))) + Fields({u"12"_s, text(128, u'k'), text(48, u'v')});
-        };
+        // Every text one character beyond its limit (the content limit is
+        // the collection's) is stored at its limit.
+        const auto text = [](int limit, char16_t c) { return QString(limit + 1, c); };
+        const QString beyond =
+            DetailsFields(u"1"_s, u"2006-10-05"_s, text(128, u'u'), text(32, u'p'), text(200, u'i'),
+                          {text(64, u't'), text(64, u'l'), u"ja"_s, text(96, u'o'), text(64, u'z')}) +
+            Fields(Status19(text(128, u's'))) + Fields({u"12"_s, text(128, u'k'), text(48, u'v')});
 
         const QString oldDetails = u"1999-01-02|Alter Untertitel|Olga|Alter Inhalt"_s;
         const QString oldDesign = u"Tibi|Illu|0|Objekt|Zeichner"_s;
@@ -120,9 +114,6 @@ private Q_SLOTS:
         const QString oldLinks = u"1:7:Alter Link:Valdorin"_s;
         QTest::newRow("insert on an existing entry")
             << 0 << withStatus << 1 << oldDetails << oldDesign << oldStatus << oldLinks;
-        QTest::newRow("all columns with status part")
-            << 1 << withStatus << 0 << u"2006-10-05|Neuer Untertitel|Jürgen|Neuer Inhalt"_s
-            << u"T2|I2|-1|O2|Z2"_s << u"19 1=neu eins,5=0000003"_s << u"1:12:Neuer Link:VN"_s;
         // A link number that is no number drops the link.
         QTest::newRow("all columns, link without number")
             << 1 << QString(withStatus).replace(u"\"12\";"_s, u"\"x\";"_s) << 0
@@ -134,14 +125,11 @@ private Q_SLOTS:
         QTest::newRow("only imported keeps empty fields")
             << 2 << sparse << 0 << oldDetails << u"Tibi|I2|-1|Objekt|Zeichner"_s
             << u"3 1=neu eins,5=0000002,19=O'Neil"_s << u"1:12:Neuer Link:VN,2:13:Neu:"_s;
-        for (int more : {0, 1})
-            QTest::newRow(more ? "texts one beyond their limits" : "texts at their limits")
-                << 1 << limits(more) << 0
-                << u"2006-10-05|"_s + QString(128, u'u') + u'|' + QString(32, u'p') + u'|' + QString(200, u'i')
-                << QString(64, u't') + u'|' + QString(64, u'l') + u"|-1|"_s + QString(96, u'o') + u'|' +
-                       QString(64, u'z')
-                << u"19 1=neu eins,5="_s + QString(128, u's')
-                << u"1:12:"_s + QString(128, u'k') + u':' + QString(48, u'v');
+        QTest::newRow("texts one beyond their limits")
+            << 1 << beyond << 0
+            << u"2006-10-05|"_s + QString(128, u'u') + u'|' + QString(32, u'p') + u'|' + QString(200, u'i')
+            << QString(64, u't') + u'|' + QString(64, u'l') + u"|-1|"_s + QString(96, u'o') + u'|' + QString(64, u'z')
+            << u"19 1=neu eins,5="_s + QString(128, u's') << u"1:12:"_s + QString(128, u'k') + u':' + QString(48, u'v');
     }
 
     void detailsFile()
@@ -167,8 +155,6 @@ private Q_SLOTS:
                  status);
         QCOMPARE(f.Rows(u"SELECT GROUP_CONCAT(ENum || ':' || LinkNum || ':' || LinkText || ':' || LinkSerie) FROM Links;"_s),
                  links);
-        // Details never touch the list.
-        QCOMPARE(f.list.Heftliste.Rows() - 1, 2);
     }
 
     void cycleFile_data()
@@ -250,7 +236,7 @@ private Q_SLOTS:
         if (!header.isEmpty() || !lines.isEmpty())
             f.Write(u"liste.dat"_s, header, lines);
         else
-            QFile(path).open(QIODevice::WriteOnly);
+            WriteFile(path, {});
         f.import.ImportChosenFile(path, ImportMode::Insert, false);
         QCOMPARE(f.import.Texts().bericht, bericht);
         QCOMPARE(f.import.Texts().fehler,

@@ -2,11 +2,11 @@
 // with details, imported into an empty collection, and every table compared;
 // then changed files brought in over it with all columns.
 
+#include "exportfixture.h"
 #include "importfixture.h"
 #include "testmain.h"
 
 #include "exchange/exportrun.h"
-#include "mainwin/entryrows.h"
 
 #include <QTest>
 
@@ -18,7 +18,6 @@ namespace {
 
 const QStringList Tables = {u"HEFTLIST"_s, u"Details"_s, u"Gestaltung"_s, u"Status"_s, u"Links"_s};
 
-// Every row of a table, fields joined by "|", in a fixed order.
 QString Dump(TempCollection& c, const QString& table) {
     const QString order = table == u"Status" || table == u"Links" ? u"Nr, ENum"_s : u"Nr"_s;
     return ImportFixture::Rows(*c.session.CollectionDb, u"SELECT * FROM %1 ORDER BY %2;"_s.arg(table, order));
@@ -56,9 +55,7 @@ void FillSource(TempCollection& c) {
 struct Carrier {
     // The source's full list as .dat pair in the target's folder.
     QString Export() {
-        Query query = source.session.CollectionDb->Select(u"SELECT * FROM HEFTLIST ORDER BY Nr;"_s);
-        ExportList list;
-        list.rows = ReadEntryRows(query, 0);
+        const ExportList list = ExportRows(source);
         const ExportTarget where{target.collection.dir.path(), u"Sammlung"_s};
         ExportOptions options;
         options.csv = true;
