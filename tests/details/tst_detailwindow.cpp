@@ -139,6 +139,8 @@ private Q_SLOTS:
         QTest::newRow("content pasted with line breaks") << u"txt_inhalt"_s << u"Erste Zeile\nzweite Zeile\rdritte"_s
                                                          << u"Details.Inhalt"_s << u"Erste Zeile zweite Zeile dritte"_s;
         QTest::newRow("person") << u"cmb_floatP"_s << u"D'Arcy Vell"_s << u"Details.Person3"_s << u"D'Arcy Vell"_s;
+        QTest::newRow("content pasted beyond its limit") << u"txt_inhalt"_s << u"Anfang\n"_s + QString(260, u'y')
+                                                         << u"Details.Inhalt"_s << u"Anfang "_s + QString(248, u'y');
         QTest::newRow("person edited in place, trimmed and cut")
             << u"liv_personen"_s << u"  Bartholomew von Eichenhain-Lornberg"_s << u"Details.Person3"_s
             << u"Bartholomew von Eichenhain-Lornb"_s;
@@ -205,7 +207,9 @@ private Q_SLOTS:
         Fixture f;
         f.collection.Exec(u"INSERT INTO Gestaltung (Nr, TiBiZeichner, IlluZeichner, RZ, RiZeZeichner, RiZeObjekt) "
                           "VALUES (2, 'Jo Kell', 'Ann Vo', -1, 'Rudi Lenz', 'Kreuzer');"_s);
+        f.collection.Exec(u"INSERT INTO Details (Nr, Ersterscheinung) VALUES (2, '31.12.1900');"_s);
         const auto w = f.Open(2, edit);
+        QVERIFY(!Child<QCheckBox>(*w, u"chk_valid"_s)->isChecked()); // the date stands for "unknown"
         QStringList shown;
         for (const QString& name : {u"tibi"_s, u"illu"_s, u"rize"_s})
             shown << (edit ? Child<QComboBox>(*w, u"cmb_"_s + name)->currentText()
@@ -225,6 +229,20 @@ private Q_SLOTS:
         QVERIFY(!head->isVisible());
         Click(*w, u"pic_max"_s);
         QVERIFY(head->isVisible());
+        if (edit) {
+            // Enter in a box goes on to the save button, Enter there saves.
+            auto* object = Child<QLineEdit>(*w, u"txt_objekt"_s);
+            object->setFocus();
+            QTest::keyClicks(object, u"X"_s);
+            QTest::keyClick(object, Qt::Key_Return);
+            QCOMPARE(QApplication::focusWidget()->objectName(), u"btn_ok"_s);
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+            QVERIFY(object->text().endsWith(u'X'));
+            QCOMPARE(f.Value(u"SELECT RiZeObjekt FROM Gestaltung WHERE Nr=2;"_s).toString(), object->text());
+        }
+        // Closed from the title bar as by its own button.
+        w->close();
+        QVERIFY(!w->isVisible());
     }
 
     void closing_data()
