@@ -89,6 +89,19 @@ private Q_SLOTS:
         QCOMPARE(browser->source().fileName(), u"index.html"_s);
     }
 
+    // The help command opens one window and brings it back on a second call.
+    void oneWindow()
+    {
+        ShowHelp(nullptr);
+        ShowHelp(nullptr, u"bearbeiten.html"_s);
+        QList<HelpWindow*> open;
+        for (QWidget* window : QApplication::topLevelWidgets())
+            if (auto* help = qobject_cast<HelpWindow*>(window))
+                open << help;
+        QCOMPARE(open.size(), 1);
+        QCOMPARE(open[0]->Browser()->source().fileName(), u"bearbeiten.html"_s);
+        delete open[0];
+    }
 };
 
 HEFT_TEST(TestHelp)

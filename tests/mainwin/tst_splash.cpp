@@ -4,14 +4,12 @@
 #include "mainwin/imageloading.h"
 #include "mainwin/ui/splashwindow.h"
 
-#include <QBuffer>
-#include <QDesktopServices>
 #include <QDir>
 #include <QFile>
+#include <QImage>
 #include <QLabel>
 #include <QTest>
 #include <QTimer>
-#include <QUrl>
 
 using namespace Qt::StringLiterals;
 using namespace heft;
@@ -78,6 +76,36 @@ private Q_SLOTS:
         QVERIFY(!window.isVisible());
     }
 
+    // A configured splash picture that can't be read gives way to the
+    // shipped one; without a logo the program ends with a message.
+    void configuredImages_data()
+    {
+        QTest::addColumn<QString>("splash");
+        QTest::addColumn<QString>("logo");
+        QTest::addColumn<bool>("loaded");
+        QTest::newRow("bitmap splash") << u"Bild.png"_s << u"Logo.svg"_s << true;
+        QTest::newRow("broken splash") << u"Kaputt.png"_s << u"Logo.svg"_s << true;
+        QTest::newRow("logo missing") << u"Splash.svg"_s << u"Fehlt.svg"_s << false;
+    }
+    void configuredImages()
+    {
+        QFETCH(QString, splash);
+        QFETCH(QString, logo);
+        QFETCH(bool, loaded);
+        SplashFixture fixture;
+        const QDir bm(fixture.collection.dir.filePath(u"bm"_s));
+        QImage picture(40, 30, QImage::Format_RGB32);
+        picture.fill(Qt::darkBlue);
+        QVERIFY(picture.save(bm.filePath(u"Bild.png"_s)));
+        WriteFile(bm.filePath(u"Kaputt.png"_s));
+        Configuration& config = fixture.collection.session.Config;
+        config.SplashFile = splash;
+        config.LogoFile = logo;
+        SplashWindow window(fixture.collection.session);
+        QCOMPARE(window.LoadImages(), loaded);
+        QCOMPARE(window.findChild<QLabel*>(u"imgLogo"_s)->pixmap().isNull(), false);
+        QCOMPARE(fixture.collection.prompter.asked.size(), loaded ? 0 : 1);
+    }
 };
 
 HEFT_TEST(TestSplash)
