@@ -122,7 +122,12 @@ private Q_SLOTS:
         ColumnFillDialog dialog(f.window);
         dialog.show();
         SetValue(dialog, label, value);
-        Child<QPushButton>(dialog, u"btn_ok"_s)->click();
+        // Enter in the input goes on to btn_ok rather than filling; Enter
+        // there fills.
+        auto* ok = Child<QPushButton>(dialog, u"btn_ok"_s);
+        QTest::keyClick(Child<QWidget>(dialog, label == u"Auflage" ? u"cmb_aufl"_s : u"txt_1"_s), Qt::Key_Return);
+        QCOMPARE(dialog.focusWidget(), ok);
+        QTest::keyClick(ok, Qt::Key_Return);
 
         QCOMPARE(NrColumn(list.Filter), filterOrder);
         QCOMPARE(NrColumn(list.Heftliste),

@@ -103,12 +103,14 @@ private Q_SLOTS:
         heft::test::TempCollection c;
         c.Add({{1, u"Ava Lind"_s, u"Eins"_s}, {2, u" Bo Kern "_s, u"Zwei"_s}, {3, u" "_s, u"Drei"_s}});
         c.Exec(u"INSERT INTO Status (Nr, ENum, StatusWert) VALUES (1, 3, 'gut'), (2, 3, ''), (3, 3, 'mäßig');"_s);
+        c.Exec(u"INSERT INTO Gestaltung (Nr, TiBiZeichner) VALUES (1, 'Hal Torn'), (2, '');"_s);
         // Blank values are dropped, the rest trimmed after the query sorted
         // them; only Autor has no <LEER>.
         QCOMPARE(heft::ValueListEntries(*c.session.CollectionDb, 1), (QStringList{u"Bo Kern"_s, u"Ava Lind"_s}));
         QCOMPARE(heft::ValueListEntries(*c.session.CollectionDb, 18),
                  (QStringList{u"gut"_s, u"mäßig"_s, u"<LEER>"_s}));
         QCOMPARE(heft::ValueListEntries(*c.session.CollectionDb, 37), QStringList{u"<LEER>"_s});
+        QCOMPARE(heft::ValueListEntries(*c.session.CollectionDb, 11), (QStringList{u"Hal Torn"_s, u"<LEER>"_s}));
     }
 
     void oneRow_data()
@@ -169,6 +171,10 @@ private Q_SLOTS:
         add("Verleihdatum", Dated(33, Kleiner), u"(s.StatusWert<'1975-03-12' AND s.StatusWert<>'' AND s.ENum=18) "_s,
             u"Verleihdatum kleiner als 12-03-1975 "_s);
         add("Serienlink empty", List(37, Ist, u"<LEER>"_s, 0, 1), u"l.LinkSerie='' "_s, u"Serienlink = <LEER> "_s);
+        add("Serienlink guarded", List(37, Ist, u"VN"_s, 0, 2), u"l.LinkSerie='VN' AND l.LinkSerie<>'' "_s,
+            u"Serienlink = 'VN' "_s);
+        add("Exemplare empty", Text(17, Ist, QString()), u"(s.StatusWert='' AND s.ENum=2) "_s,
+            u"Exemplare = <LEER> "_s);
     }
 
     void oneRow()
