@@ -13,6 +13,9 @@ class Session;
 
 // The attributes an entry can carry: ENum 1 to StatusCount of Status.
 constexpr int StatusCount = 19;
+// Authors are kept to this many characters wherever they come in: the
+// editor, the exchange files and the web import.
+constexpr int AuthorLength = 25;
 
 // The statements run by UpgradeSchema, in their order.
 const QStringList& UpgradeStatements();

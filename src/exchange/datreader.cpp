@@ -3,6 +3,7 @@
 #include "datcutter.h"
 
 #include "core/roman.h"
+#include "core/schema.h"
 #include "core/textfuncs.h"
 
 #include <cmath>
@@ -53,7 +54,7 @@ const ListRecord& ListReader::Read(const QString& line)
     r.Bits = 0;
     DatCutter cutter(line);
     Mark(r.Bits, 1, cutter.CutFirst(r.Nr, NoLimit));
-    Mark(r.Bits, 2, cutter.Cut(r.Autor, 25));
+    Mark(r.Bits, 2, cutter.Cut(r.Autor, AuthorLength));
     Mark(r.Bits, 3, cutter.Cut(r.Titel, 50));
     Mark(r.Bits, 4, cutter.Cut(r.Auflage, NoLimit));
     Mark(r.Bits, 5, cutter.Cut(r.Zyklus, 8));

@@ -1,6 +1,7 @@
 #include "wikitext.h"
 
 #include "core/codepage.h"
+#include "core/schema.h"
 #include "core/textfuncs.h"
 
 using namespace Qt::StringLiterals;
@@ -9,7 +10,6 @@ namespace heft {
 
 namespace {
 
-constexpr qsizetype AuthorWidth = 25;
 constexpr int MaxPersons = 10;
 // A cycle number is written as a roman numeral; beyond this it would be a
 // line of thousands of M.
@@ -79,7 +79,7 @@ std::optional<QString> LinkTextsOnly(const QString& cell)
 std::optional<QString> ShortenAuthors(const QString& authors)
 {
     QString text = authors;
-    if (text.size() <= AuthorWidth)
+    if (text.size() <= AuthorLength)
         return text;
     // q is where the current name starts, blank the end of its first name.
     qsizetype q = 1;
@@ -91,7 +91,7 @@ std::optional<QString> ShortenAuthors(const QString& authors)
         if (!slash)
             return std::nullopt;
         q = *slash + 3;
-        if (text.size() <= AuthorWidth || q <= 3)
+        if (text.size() <= AuthorLength || q <= 3)
             return text;
     }
 }

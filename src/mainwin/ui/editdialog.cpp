@@ -5,6 +5,7 @@
 #include "mainwindow.h"
 
 #include "core/roman.h"
+#include "core/schema.h"
 #include "core/session.h"
 #include "core/textfuncs.h"
 
@@ -25,8 +26,6 @@ const QString NoCycle = u"- - -"_s;
 const QString UnknownText = u"*** Unbekannt ***"_s;
 // Cycle numbers above this have no roman key in the cycle list.
 constexpr int HighestCycle = 999;
-// Authors are stored with at most this many characters.
-constexpr int AuthorLength = 25;
 
 // The boxes for numbers take only digits (and, for the cycle, roman
 // letters). Keys that type no character, such as Backspace, Enter, Esc and
