@@ -29,14 +29,6 @@ QList<Volume> ListOpticalDrives(const QList<Volume>& volumes)
     return optical;
 }
 
-QString VolumeLabel(const QList<Volume>& volumes, const QString& root)
-{
-    for (const Volume& volume : volumes)
-        if (volume.root == root)
-            return volume.label;
-    return {};
-}
-
 QString FindArchiveDrive(const QList<Volume>& volumes, QString& lastLabel)
 {
     for (const Volume& volume : ListOpticalDrives(volumes)) {

@@ -17,7 +17,6 @@ struct Volume {
 QList<Volume> MountedVolumes();
 // The optical ones, in the order given.
 QList<Volume> ListOpticalDrives(const QList<Volume>& volumes);
-QString VolumeLabel(const QList<Volume>& volumes, const QString& root);
 // The root of the first optical volume labelled "VN_ARCHIV_2" or
 // "VALDORIN_1", or empty; lastLabel gets the label read last.
 QString FindArchiveDrive(const QList<Volume>& volumes, QString& lastLabel);

@@ -66,12 +66,4 @@ std::vector<EntryCells> ReadEntryRows(Query& query, qsizetype expectedRows)
     return rows;
 }
 
-int FillEntryModel(Database& db, EntryGridModel& model)
-{
-    const int count = db.SelectValue(u"SELECT COUNT(*) FROM HEFTLIST;"_s).toInt();
-    Query query = db.Select(u"SELECT * FROM HEFTLIST ORDER BY Nr;"_s);
-    model.Reset(ReadEntryRows(query, count));
-    return model.rowCount();
-}
-
 } // namespace heft

@@ -31,9 +31,4 @@ void ReadEntryCells(const Query& query, const EntryColumns& columns, EntryCells&
 // their order. expectedRows only reserves room.
 std::vector<EntryCells> ReadEntryRows(Query& query, qsizetype expectedRows);
 
-// Fills a model with the whole of HEFTLIST ordered by number, in one reset;
-// returns the number of rows. This is the start-up fill without the window,
-// as the benchmark measures it.
-int FillEntryModel(Database& db, EntryGridModel& model);
-
 } // namespace heft

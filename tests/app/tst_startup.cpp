@@ -122,7 +122,6 @@ private Q_SLOTS:
     void failures()
     {
         QFETCH(QString, damage);
-        QFETCH(bool, started);
         QFETCH(QString, told);
         QFETCH(QString, logged);
         const QString path = m_root.filePath(u"Kaputt %1.mdb"_s.arg(QLatin1String(QTest::currentDataTag())));
@@ -134,7 +133,7 @@ private Q_SLOTS:
         Session session;
         ScriptedPrompter prompter;
         const auto named = [&](QString text) { return text.replace(u"%1"_s, path); };
-        QCOMPARE(Start(session, prompter, path), started);
+        QTEST(Start(session, prompter, path), "started");
         QCOMPARE(prompter.asked.size(), told.isNull() ? 0 : 1);
         if (!told.isNull())
             QVERIFY2(prompter.asked[0].text.contains(named(told)), qPrintable(prompter.asked[0].text));

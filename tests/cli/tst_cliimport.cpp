@@ -60,7 +60,6 @@ private Q_SLOTS:
         QFETCH(int, code);
         QFETCH(QString, out);
         QFETCH(QString, check);
-        QFETCH(QString, result);
         heft::test::TempCollection c;
         c.Add({{1, u"Ava Lind"_s, u"Morgensonne"_s, 1, u"I"_s}, {2, u"Bo Kern"_s, u"Nachtflug"_s, 2, u"II"_s}});
         c.Close();
@@ -77,7 +76,7 @@ private Q_SLOTS:
         QCOMPARE(run.err.isEmpty(), code != 2);
 
         c.Reopen();
-        QCOMPARE(c.Value(check).toString(), result);
+        QTEST(c.Value(check).toString(), "result");
     }
 };
 

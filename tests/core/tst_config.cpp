@@ -67,8 +67,6 @@ private Q_SLOTS:
     void parameters()
     {
         QFETCH(QStringList, rows);
-        QFETCH(int, maxAuflage);
-        QFETCH(int, contentLimit);
         QFETCH(QString, pictureRoot);
         QFETCH(QString, archiveRoot);
         TempCollection collection;
@@ -81,8 +79,8 @@ private Q_SLOTS:
         ReadParameters(collection.session);
         const Configuration& config = collection.session.Config;
         const QString dataFolder = collection.session.DataFolder;
-        QCOMPARE(config.MaxAuflage, maxAuflage);
-        QCOMPARE(config.ContentLimit, contentLimit);
+        QTEST(config.MaxAuflage, "maxAuflage");
+        QTEST(config.ContentLimit, "contentLimit");
         QCOMPARE(config.PictureRoot, pictureRoot.isEmpty() ? dataFolder : pictureRoot);
         QCOMPARE(config.ArchiveRoot, archiveRoot.isEmpty() ? dataFolder : archiveRoot);
     }

@@ -138,7 +138,9 @@ private Q_SLOTS:
         QTest::addColumn<QString>("stored");
         QTest::newRow("content pasted with line breaks") << u"txt_inhalt"_s << u"Erste Zeile\nzweite Zeile\rdritte"_s
                                                          << u"Details.Inhalt"_s << u"Erste Zeile zweite Zeile dritte"_s;
-        QTest::newRow("person") << u"cmb_floatP"_s << u"D'Arcy Vell"_s << u"Details.Person3"_s << u"D'Arcy Vell"_s;
+        QTest::newRow("person, taken with Enter") << u"cmb_floatP"_s << u"D'Arcy Vell"_s << u"Details.Person3"_s
+                                                  << u"D'Arcy Vell"_s;
+        QTest::newRow("illustrator") << u"cmb_illu"_s << u"Ann Vo"_s << u"Gestaltung.IlluZeichner"_s << u"Ann Vo"_s;
         QTest::newRow("content pasted beyond its limit") << u"txt_inhalt"_s << u"Anfang\n"_s + QString(260, u'y')
                                                          << u"Details.Inhalt"_s << u"Anfang "_s + QString(248, u'y');
         QTest::newRow("person edited in place, trimmed and cut")
@@ -180,6 +182,8 @@ private Q_SLOTS:
         } else if (control != u"liv_personen"_s) {
             TypeInto(*w, control, typed);
         }
+        if (control == u"cmb_floatP"_s)
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
         QPushButton* save = Child<QPushButton>(*w, u"btn_ok"_s);
         QVERIFY(save->isEnabled());
         save->click();
@@ -285,6 +289,19 @@ private Q_SLOTS:
             QCOMPARE(Child<QPlainTextEdit>(*w, u"txt_utitel"_s)->toPlainText(), change ? u"Ungespeichert"_s : QString());
         for (const QString& table : {u"Details"_s, u"Gestaltung"_s, u"Status"_s, u"Links"_s})
             QCOMPARE(f.Count(table, 3), 0);
+    }
+
+    // Esc in the box over the person list closes only the box.
+    void escapeInPersonBox()
+    {
+        Fixture f;
+        const auto w = f.Open(3, true);
+        DoubleClickPerson(*w, 1);
+        auto* box = Child<QComboBox>(*w, u"cmb_floatP"_s);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+        QVERIFY(!box->isVisible() && w->isVisible());
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+        QVERIFY(!w->isVisible());
     }
 
     // Straight from the menu, or from the editor's "Detailinfo ..." button.

@@ -80,15 +80,24 @@ private Q_SLOTS:
             dialog.findChild<QLineEdit*>(u"txt_serie"_s)->setText(OtherList);
             dialog.findChild<QPushButton*>(u"btn_ok"_s)->click();
         });
-        f.Button(u"btn_edit"_s)->click();
+        const QPoint third = f.list->visualItemRect(f.list->currentItem()).center();
+        QTest::mouseClick(f.list->viewport(), Qt::LeftButton, {}, third);
+        QTest::mouseDClick(f.list->viewport(), Qt::LeftButton, {}, third);
         QCOMPARE(f.panel->Links()[2].series, OtherList);
         QVERIFY(!jump->isEnabled());
 
         // A new link comes below the selected one and points past the main
-        // list's entry; the header sorts numbers by value; a deleted link
-        // hands the selection on.
+        // list's entry; its number takes digits only, and no entry has 0.
+        // The header sorts numbers by value; a deleted link hands the
+        // selection on.
         script.Then([](QDialog& dialog) {
-            QCOMPARE(dialog.findChild<QLineEdit*>(u"txt_nr"_s)->text(), u"13"_s);
+            auto* number = dialog.findChild<QLineEdit*>(u"txt_nr"_s);
+            QCOMPARE(number->text(), u"13"_s);
+            number->clear();
+            QTest::keyClicks(number, u"0x"_s);
+            dialog.findChild<QPushButton*>(u"btn_ok"_s)->click();
+            QVERIFY(dialog.isVisible() && number->hasSelectedText());
+            QTest::keyClicks(number, u"7"_s);
             dialog.findChild<QPushButton*>(u"btn_ok"_s)->click();
         });
         f.Button(u"btn_neu"_s)->click();
@@ -98,7 +107,7 @@ private Q_SLOTS:
         for (const LinkRow& link : f.panel->Links())
             numbers << QString::number(link.number);
         QCOMPARE(numbers, (QStringList{u"3"_s, u"12"_s, u"99"_s}));
-        QCOMPARE(f.list->currentItem()->text(0), u"99"_s);
+        QCOMPARE(f.list->currentItem()->text(0), u"12"_s);
         QCOMPARE(script.opened, 2);
     }
 };

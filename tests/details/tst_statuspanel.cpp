@@ -56,8 +56,9 @@ class TestStatusPanel : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    // Keys that don't belong to the attribute never reach the box; Enter
-    // takes the value into the row in its shown form.
+    // Keys that don't belong to the attribute never reach the box; Enter or
+    // a click beside the box takes the value into the row in its shown form,
+    // unless it is refused; Esc drops it and leaves the window open.
     void typeAndEnter_data()
     {
         QTest::addColumn<int>("enumber");
@@ -65,18 +66,25 @@ private Q_SLOTS:
         QTest::addColumn<QString>("shown");
         QTest::addColumn<QString>("stored");
         QTest::addColumn<QStringList>("offered"); // by the combo box; empty: a text box
-        QTest::newRow("comma refused in the price") << 5 << u"4,5"_s << u"45"_s << u"0000045"_s << QStringList();
-        QTest::newRow("old lending date") << 18 << u"1.2.1899"_s << u"1901-01-01"_s << u"1901-01-01"_s << QStringList();
-        QTest::newRow("condition from the used ones") << 3 << u"neu "_s << u"neu"_s << u"neu"_s
-                                                      << QStringList{u"mäßig"_s, u"gut"_s, u"sehr gut"_s};
+        QTest::addColumn<QString>("finish");      // keys, or a click on the list beside the box
+        const QStringList used{u"mäßig"_s, u"gut"_s, u"sehr gut"_s};
+        QTest::newRow("comma refused in the price") << 5 << u"4,5"_s << u"45"_s << u"0000045"_s << QStringList()
+                                                    << u"Return"_s;
+        QTest::newRow("old lending date") << 18 << u"1.2.1899"_s << u"1901-01-01"_s << u"1901-01-01"_s
+                                          << QStringList() << u"Return"_s;
+        QTest::newRow("condition from the used ones") << 3 << u"neu "_s << u"neu"_s << u"neu"_s << used << u"Return"_s;
+        QTest::newRow("condition taken by a click") << 3 << u"neu"_s << u"neu"_s << u"neu"_s << used << u"click"_s;
+        QTest::newRow("lending date dropped") << 18 << u"1.2.1999"_s << QString() << QString() << QStringList()
+                                              << u"Escape"_s;
+        QTest::newRow("price that is no number stays open")
+            << 5 << u"1.2.3"_s << u"3.5"_s << u"00003.5"_s << QStringList() << u"Return Escape"_s;
     }
     void typeAndEnter()
     {
         QFETCH(int, enumber);
         QFETCH(QString, typed);
-        QFETCH(QString, shown);
-        QFETCH(QString, stored);
         QFETCH(QStringList, offered);
+        QFETCH(QString, finish);
         Fixture f;
         // The tests run with the German locale: a number still shows a point.
         QCOMPARE(f.Shown(5), u"3.5"_s);
@@ -98,12 +106,18 @@ private Q_SLOTS:
         QLineEdit* typing = offered.isEmpty() ? f.text : f.combo->lineEdit();
         typing->clear();
         QTest::keyClicks(typing, typed);
-        QTest::keyClick(typing, Qt::Key_Return);
-        QVERIFY(!f.panel->IsEditorOpen());
-        QCOMPARE(f.Shown(enumber), shown);
-        QCOMPARE(f.panel->StoredValue(enumber), stored);
+        for (const QString& step : finish.split(u' ')) {
+            QVERIFY(f.panel->IsEditorOpen());
+            if (step == u"click"_s)
+                QTest::mouseClick(f.list->viewport(), Qt::LeftButton, {}, f.list->visualItemRect(f.Row(1)).center());
+            else
+                QTest::keyClick(typing, step == u"Return"_s ? Qt::Key_Return : Qt::Key_Escape);
+        }
+        QVERIFY(!f.panel->IsEditorOpen() && f.window.isVisible());
+        QTEST(f.Shown(enumber), "shown");
+        QTEST(f.panel->StoredValue(enumber), "stored");
         QVERIFY(!f.Row(enumber)->font(0).bold());
-        QCOMPARE(changed.size(), 1);
+        QCOMPARE(changed.size(), finish.endsWith(u"Escape"_s) ? 0 : 1);
     }
 
 };

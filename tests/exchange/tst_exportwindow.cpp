@@ -92,14 +92,13 @@ private Q_SLOTS:
         QFETCH(QString, flags);
         QFETCH(bool, cancel);
         QFETCH(QString, suffix);
-        QFETCH(QStringList, files);
         ExportWindow w;
         ExportDialog dialog(w.window, w.Chooser(cancel));
         dialog.show();
         Check(dialog, flags);
         Child<QPushButton>(dialog, u"btn_choose"_s)->click();
 
-        QCOMPARE(QDir(QFileInfo(w.Path(QString())).path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), files);
+        QTEST(QDir(QFileInfo(w.Path(QString())).path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), "files");
         QCOMPARE(w.askedFilter, suffix.isEmpty() ? QString() : u"Heftarium-Exportdatei (*.%1)"_s.arg(suffix));
         QTEST(Child<QPlainTextEdit>(dialog, u"txt_result"_s)->toPlainText().section(u'\n', 0, 0), "result");
         QCOMPARE(w.collection.prompter.asked.size(), suffix.isEmpty() ? 1 : 0);

@@ -51,6 +51,9 @@ private Q_SLOTS:
         {
             MainWindow window;
             window.LoadList(c.session);
+            // One entry is too few for a statistic.
+            window.StatisticsClick([] { QFAIL("statistics over one entry"); });
+            QCOMPARE(c.prompter.asked.value(0).title, u"Dezenter Hinweis"_s);
             window.resize(700, 500);
             window.close();
         }

@@ -2,8 +2,10 @@
 #include "testsupport.h"
 
 #include "mainwin/imageloading.h"
+#include "mainwin/ui/mainwindow.h"
 #include "mainwin/ui/splashwindow.h"
 
+#include <QAction>
 #include <QDir>
 #include <QFile>
 #include <QImage>
@@ -74,6 +76,19 @@ private Q_SLOTS:
         });
         QVERIFY(closed);
         QVERIFY(!window.isVisible());
+    }
+
+    // The about command shows the window modal over the main window.
+    void fromTheMenu()
+    {
+        SplashFixture fixture;
+        fixture.collection.Add({{1, u"A"_s, u"T"_s}});
+        MainWindow window;
+        window.LoadList(fixture.collection.session);
+        ModalScript about(u"frm_Splash"_s);
+        about.Then([](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_A); });
+        window.Command(u"mnu_Info"_s)->trigger();
+        QVERIFY(about.opened == 1 && !about.leftOpen);
     }
 
     // A configured splash picture that can't be read gives way to the

@@ -215,14 +215,12 @@ private Q_SLOTS:
     {
         QFETCH(int, statistic);
         QFETCH(QString, choice);
-        QFETCH(QStringList, lines);
-        QFETCH(QStringList, rows);
         TempCollection c;
         FillSample(c);
         const auto kind = static_cast<Statistic>(statistic);
         const StatsResult result = Build(c, kind, choice, choice);
-        QCOMPARE(result.text.split(u"\r\n"_s), lines);
-        QCOMPARE(RowTexts(result.chart), rows);
+        QTEST(result.text.split(u"\r\n"_s), "lines");
+        QTEST(RowTexts(result.chart), "rows");
     }
 
     void priceValueCharts()
@@ -269,7 +267,6 @@ private Q_SLOTS:
         QFETCH(QString, setup);
         QFETCH(int, statistic);
         QFETCH(int, line);
-        QFETCH(QString, expected);
         QFETCH(int, chartRows);
         TempCollection c;
         if (setup == u"1-2")
@@ -281,7 +278,7 @@ private Q_SLOTS:
         for (int cycle = 1; setup == u"65 cycles" && cycle <= 65; ++cycle)
             c.Add({{cycle, u"Kurt Brandis"_s, u"A"_s, 1, NumberToRoman(int(cycle))}});
         const StatsResult result = Build(c, static_cast<Statistic>(statistic), u"Kurt Brandis"_s);
-        QCOMPARE(result.text.split(u"\r\n"_s).value(line), expected);
+        QTEST(result.text.split(u"\r\n"_s).value(line), "expected");
         QCOMPARE(result.chart.rows.size(), chartRows);
         if (!result.chart.tooFewData)
             QCOMPARE(result.chart.valueLabels, chartRows <= ChartData::MaxLabelledRows);

@@ -171,15 +171,6 @@ bool MainCommands::IsEnabled(const QString& menuName) const
 
 QAction* MainCommands::Action(const QString& name) const { return m_actionsByName.value(name); }
 
-int MainCommands::ToolbarButtonsWidth() const
-{
-    int width = 0;
-    for (QAction* action : m_toolbar->actions())
-        if (QWidget* widget = m_toolbar->widgetForAction(action))
-            width += widget->sizeHint().width();
-    return width;
-}
-
 void MainCommands::Run(const QString& menuName)
 {
     const Command& command = m_commands[menuName];

@@ -34,9 +34,6 @@ public:
     QAction* Action(const QString& name) const;
     QToolBar* Toolbar() const { return m_toolbar; }
     QMenu* PopupMenu() const { return m_editMenu; }
-    // The width of all toolbar buttons in pixels, for the window's default
-    // width.
-    int ToolbarButtonsWidth() const;
 
 private:
     struct Command {

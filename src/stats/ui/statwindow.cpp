@@ -60,8 +60,6 @@ void StatWindow::Load()
     StatClick();
 }
 
-QString StatWindow::ReportText() const { return m_ui->txt_box1->toPlainText(); }
-
 void StatWindow::StatClick()
 {
     UpdateStepCaptions();

@@ -26,7 +26,6 @@ public:
 
     // Reads the authors, cycles and printings and shows the first statistic.
     void Load();
-    QString ReportText() const;
     const StatsResult& Result() const { return m_result; }
 
 private:
