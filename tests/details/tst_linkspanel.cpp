@@ -25,8 +25,7 @@ const QString OtherList = u"Sternfahrer Taschenbücher"_s;
 
 // Entries 1 to 20 in the main list, entry 5 current, with the given links.
 struct Fixture {
-    explicit Fixture(const QList<LinkRow>& links, bool edit = true)
-    {
+    explicit Fixture(const QList<LinkRow>& links, bool edit = true) {
         QList<TestEntry> entries;
         for (int nr = 1; nr <= 20; ++nr)
             entries.append({nr, u"Ada Wendrich"_s, u"Im Nebel von Karsa, Teil %1"_s.arg(nr)});
@@ -34,7 +33,8 @@ struct Fixture {
         LoadEntryList(collection, entryList, entryList.Heftliste);
         entryList.FindAndShowRow(5);
         for (int i = 0; i < links.size(); ++i)
-            collection.Exec(u"INSERT INTO Links VALUES (5, %1, %2, '%3', '%4');"_s.arg(i + 1).arg(links[i].number)
+            collection.Exec(u"INSERT INTO Links VALUES (5, %1, %2, '%3', '%4');"_s.arg(i + 1)
+                                .arg(links[i].number)
                                 .arg(links[i].text, links[i].series));
         panel = std::make_unique<LinksPanel>(collection.session, entryList);
         panel->SetEditMode(edit);
@@ -57,10 +57,10 @@ struct Fixture {
 class TestLinksPanel : public QObject {
     Q_OBJECT
 
-private Q_SLOTS:
-    void gotoSelectsEntry()
-    {
-        Fixture f({{12, u"Karsa erwacht"_s, OpenList}, {3, u"gleiche Geschichte"_s, OtherList},
+  private Q_SLOTS:
+    void gotoSelectsEntry() {
+        Fixture f({{12, u"Karsa erwacht"_s, OpenList},
+                   {3, u"gleiche Geschichte"_s, OtherList},
                    {99, u"noch nicht erschienen"_s, OpenList}});
         const EntryGrid& grid = f.entryList.Heftliste;
         QPushButton* jump = f.Button(u"btn_goto"_s);
@@ -88,8 +88,9 @@ private Q_SLOTS:
 
         // A new link comes below the selected one and points past the main
         // list's entry; its number takes digits only, and no entry has 0.
-        // The header sorts numbers by value; a deleted link hands the
-        // selection on.
+        // The header sorts numbers by value, and each click turns the order;
+        // a deleted link hands the selection on; a cancelled edit changes
+        // nothing.
         script.Then([](QDialog& dialog) {
             auto* number = dialog.findChild<QLineEdit*>(u"txt_nr"_s);
             QCOMPARE(number->text(), u"13"_s);
@@ -102,13 +103,18 @@ private Q_SLOTS:
         });
         f.Button(u"btn_neu"_s)->click();
         QTest::mouseClick(f.list->header()->viewport(), Qt::LeftButton, {}, QPoint(5, 5));
+        QCOMPARE(f.list->topLevelItem(1)->text(0), u"7"_s);
+        QTest::mouseClick(f.list->header()->viewport(), Qt::LeftButton, {},
+                          QPoint(f.list->columnWidth(0) + 5, 5));
         f.Button(u"btn_del"_s)->click();
+        script.Then([](QDialog& dialog) { dialog.reject(); });
+        f.Button(u"btn_edit"_s)->click();
         QStringList numbers;
         for (const LinkRow& link : f.panel->Links())
             numbers << QString::number(link.number);
-        QCOMPARE(numbers, (QStringList{u"3"_s, u"12"_s, u"99"_s}));
-        QCOMPARE(f.list->currentItem()->text(0), u"12"_s);
-        QCOMPARE(script.opened, 2);
+        QCOMPARE(numbers, (QStringList{u"99"_s, u"12"_s, u"3"_s}));
+        QCOMPARE(f.list->currentItem()->text(0), u"99"_s);
+        QCOMPARE(script.opened, 3);
     }
 };
 

@@ -101,7 +101,6 @@ class TestRoundTrip : public QObject {
         carrier.Import(carrier.Export(), ImportMode::AllColumns);
         carrier.CompareAll();
     }
-
 };
 
 HEFT_TEST(TestRoundTrip)
