@@ -6,7 +6,8 @@
 #include <memory>
 
 namespace heft::test {
-std::vector<Factory>& Registry() {
+std::vector<Factory>& Registry()
+{
     static std::vector<Factory> factories;
     return factories;
 }
@@ -15,7 +16,8 @@ std::vector<Factory>& Registry() {
 // Runs every registered class; the arguments (e.g. a test function's name)
 // go to each of them, so "-functions" lists all. HEFT_TEST_CLASS=Name runs
 // one class only.
-int main(int argc, char** argv) {
+int main(int argc, char** argv)
+{
     QApplication app(argc, argv);
     QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
     const QByteArray onlyClass = qgetenv("HEFT_TEST_CLASS");

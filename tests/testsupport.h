@@ -17,7 +17,9 @@ struct TestEntry {
     TestEntry(int nr_, QString autor_, QString titel_, int auflage_ = 0,
               QString zyklus_ = QStringLiteral("- - -"), bool gelesen_ = false, QString bemerkung_ = {})
         : nr(nr_), autor(std::move(autor_)), titel(std::move(titel_)), auflage(auflage_),
-          zyklus(std::move(zyklus_)), gelesen(gelesen_), bemerkung(std::move(bemerkung_)) {}
+          zyklus(std::move(zyklus_)), gelesen(gelesen_), bemerkung(std::move(bemerkung_))
+    {
+    }
     int nr;
     QString autor;
     QString titel;
@@ -28,7 +30,7 @@ struct TestEntry {
 };
 
 class TempCollection {
-  public:
+public:
     // A new file "Test.mdb" in a fresh temporary folder, opened in session.
     explicit TempCollection(const QString& series = QStringLiteral("Valdorin"),
                             const QString& kind = QStringLiteral("Heftromane"));
@@ -51,14 +53,14 @@ class TempCollection {
 // A dialog that a step leaves open, and any beyond the steps, is noted and
 // rejected, so that the test goes on and can tell.
 class ModalScript {
-  public:
+public:
     explicit ModalScript(const QString& name);
     void Then(std::function<void(QDialog&)> step) { m_steps.append(std::move(step)); }
     qsizetype Pending() const { return m_steps.size(); }
     int opened = 0;
     bool leftOpen = false;
 
-  private:
+private:
     void Poll();
     QString m_name;
     QList<std::function<void(QDialog&)>> m_steps;
@@ -66,7 +68,8 @@ class ModalScript {
 };
 
 // A child that must be there.
-template <typename T> T* Child(const QWidget& parent, const QString& name) {
+template <typename T> T* Child(const QWidget& parent, const QString& name)
+{
     T* child = parent.findChild<T*>(name);
     if (child == nullptr)
         qFatal("no %s", qPrintable(name));

@@ -19,23 +19,25 @@ namespace {
 
 // An all-users folder with the seven shipped files, made by the same code
 // that makes the real ones.
-void MakeAllUsersFolder(const QString& root) {
+void MakeAllUsersFolder(const QString& root)
+{
     QDir().mkpath(root + u"/DBs"_s);
     DbError error;
     for (const char16_t* file : {u"Heftarium.mdb", u"VN-HR.mdb", u"VN-TB.mdb"}) {
-        auto db = CreateCollectionFile(
-            root + u"/DBs/"_s + QStringView(file), u"Valdorin"_s,
-            QStringView(file) == u"VN-TB.mdb" ? u"Taschenbücher"_s : u"Heftromane"_s, &error);
+        auto db = CreateCollectionFile(root + u"/DBs/"_s + QStringView(file), u"Valdorin"_s,
+                                       QStringView(file) == u"VN-TB.mdb" ? u"Taschenbücher"_s : u"Heftromane"_s,
+                                       &error);
         QVERIFY(db);
         db->Execute(u"INSERT INTO HEFTLIST VALUES (1, 'A', '%1', 0, 'I', 0, '');"_s.arg(QStringView(file)));
     }
     QVERIFY(CreateCycleFile(root + u"/DBs/Valdorin Zyklus.mdb"_s, &error));
-    for (const char16_t* file : {u"bm/Logo.svg", u"bm/Splash.svg", u"DBs/Heftarium.marker",
-                                 u"Archiv/HEFT0001.HTM", u"tibis/Valdorin (Heftromane)/0001.jpg"})
+    for (const char16_t* file : {u"bm/Logo.svg", u"bm/Splash.svg", u"DBs/Heftarium.marker", u"Archiv/HEFT0001.HTM",
+                                 u"tibis/Valdorin (Heftromane)/0001.jpg"})
         heft::test::WriteFile(root + u'/' + QStringView(file));
 }
 
-QStringList ReadLog(const QString& path) {
+QStringList ReadLog(const QString& path)
+{
     QFile f(path);
     if (!f.open(QIODevice::ReadOnly))
         return {};
@@ -52,15 +54,17 @@ class TestStartup : public QObject {
     QString m_user;
     QString m_app;
 
-    bool Start(Session& session, ScriptedPrompter& prompter, const QString& commandLine = {}) {
+    bool Start(Session& session, ScriptedPrompter& prompter, const QString& commandLine = {})
+    {
         session.prompter = &prompter;
         return StartSession(session, {m_user, m_allUsers + u'/', m_app, commandLine});
     }
 
     QString Data() const { return m_user + u"/Quintara/Heftarium"_s; }
 
-  private Q_SLOTS:
-    void init() {
+private Q_SLOTS:
+    void init()
+    {
         m_allUsers = m_root.filePath(u"share/Quintara/Heftarium"_s);
         // The per-user base does not exist yet, as on a fresh account.
         m_user = m_root.filePath(u"home-%1/.local/share"_s.arg(QLatin1String(QTest::currentTestFunction())));
@@ -70,7 +74,8 @@ class TestStartup : public QObject {
             MakeAllUsersFolder(m_allUsers);
     }
 
-    void firstStartCopiesEverything() {
+    void firstStartCopiesEverything()
+    {
         Session session;
         ScriptedPrompter prompter;
         // A sample the user has already is kept; the others come along.
@@ -80,7 +85,8 @@ class TestStartup : public QObject {
         QCOMPARE(QFileInfo(Data() + u"/Archiv/HEFT0001.HTM"_s).size(), 4);
         QVERIFY(QFileInfo::exists(Data() + u"/tibis/Valdorin (Heftromane)/0001.jpg"_s));
         int folders = 0;
-        for (QDirIterator it(m_user, QDir::Dirs | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);
+        for (QDirIterator it(m_user, QDir::Dirs | QDir::NoDotAndDotDot,
+                             QDirIterator::Subdirectories);
              it.hasNext(); it.next())
             ++folders;
         QCOMPARE(folders, 16);
@@ -98,7 +104,8 @@ class TestStartup : public QObject {
 
     // A file that can't be used ends the run with a message naming it (%1:
     // the file); a missing cycle file is only logged.
-    void failures_data() {
+    void failures_data()
+    {
         QTest::addColumn<QString>("damage"); // SQL run on the named file; null: no file at all
         QTest::addColumn<bool>("started");
         QTest::addColumn<QString>("told");
@@ -107,12 +114,13 @@ class TestStartup : public QObject {
                                           << u"Fehler beim Öffnen der Konfigurations Tabelle: "_s;
         QTest::newRow("no entry table") << u"DROP TABLE HEFTLIST;"_s << false << u"\n\n'%1'\n\n"_s
                                         << u"Fehler beim Öffnen der %1 Tabelle: "_s;
-        QTest::newRow("file not there")
-            << QString() << false << u"\n\n'%1'\n\n"_s << u"%1: Die Datei wurde nicht gefunden."_s;
-        QTest::newRow("series without cycle file")
-            << u""_s << true << QString() << u"Fehler beim Öffnen der Zyklus DB: "_s;
+        QTest::newRow("file not there") << QString() << false << u"\n\n'%1'\n\n"_s
+                                        << u"%1: Die Datei wurde nicht gefunden."_s;
+        QTest::newRow("series without cycle file") << u""_s << true << QString()
+                                                   << u"Fehler beim Öffnen der Zyklus DB: "_s;
     }
-    void failures() {
+    void failures()
+    {
         QFETCH(QString, damage);
         QFETCH(QString, told);
         QFETCH(QString, logged);
@@ -132,6 +140,7 @@ class TestStartup : public QObject {
         const QStringList log = ReadLog(Data() + u"/Heftarium.log"_s);
         QVERIFY2(!log.filter(named(logged)).isEmpty(), qPrintable(log.join(u'\n')));
     }
+
 };
 
 HEFT_TEST(TestStartup)

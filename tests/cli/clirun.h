@@ -16,7 +16,8 @@ struct CliRun {
     bool operator==(const CliRun&) const = default;
 };
 
-inline CliRun RunCliWith(const QStringList& arguments) {
+inline CliRun RunCliWith(const QStringList& arguments)
+{
     QString out, err;
     QTextStream outStream(&out), errStream(&err);
     const int code = RunCli(arguments, outStream, errStream);

@@ -13,7 +13,8 @@ using namespace heft::test;
 
 namespace {
 
-void SetUp(TempCollection& c, const QString& command) {
+void SetUp(TempCollection& c, const QString& command)
+{
     if (command == u"fill") {
         c.Add({{1, u"Ava Lind"_s, u"Morgensonne"_s, 1, u"I"_s},
                {2, u"Bo Kern"_s, u"Nachtflug"_s, 2, u"II"_s},
@@ -35,8 +36,9 @@ void SetUp(TempCollection& c, const QString& command) {
 class TestCliCommands : public QObject {
     Q_OBJECT
 
-  private Q_SLOTS:
-    void commands_data() {
+private Q_SLOTS:
+    void commands_data()
+    {
         QTest::addColumn<QStringList>("arguments"); // behind "--db FILE"
         QTest::addColumn<int>("code");
         QTest::addColumn<QString>("out");
@@ -48,14 +50,12 @@ class TestCliCommands : public QObject {
         const QString nothingFound =
             u"Zu den gegebenen Filter-Kriterien konnten in der Datenbank leider keine Einträge gefunden werden.\n"_s;
         QTest::newRow("fill status over a filter")
-            << QStringList{u"fill"_s, u"Autor:IST:Ava Lind"_s, u"--target"_s, u"Preis"_s, u"--value"_s,
-                           u"2,5"_s}
+            << QStringList{u"fill"_s, u"Autor:IST:Ava Lind"_s, u"--target"_s, u"Preis"_s, u"--value"_s, u"2,5"_s}
             << 0 << u"Geänderte Einträge: 2\n"_s << QString() << price << u"1=00002.5,3=00002.5"_s;
         QTest::newRow("fill cycle as a number")
-            << QStringList{u"fill"_s, u"Nr:GRÖßER:1"_s, u"--target"_s, u"Zyklus"_s, u"--value"_s, u"14"_s}
-            << 0 << u"Geänderte Einträge: 2\n"_s << QString()
-            << u"SELECT GROUP_CONCAT(Zyklus) FROM (SELECT Zyklus FROM HEFTLIST ORDER BY Nr);"_s
-            << u"I,XIV,XIV"_s;
+            << QStringList{u"fill"_s, u"Nr:GRÖßER:1"_s, u"--target"_s, u"Zyklus"_s, u"--value"_s, u"14"_s} << 0
+            << u"Geänderte Einträge: 2\n"_s << QString()
+            << u"SELECT GROUP_CONCAT(Zyklus) FROM (SELECT Zyklus FROM HEFTLIST ORDER BY Nr);"_s << u"I,XIV,XIV"_s;
         QTest::newRow("fill no cycle only when said so")
             << QStringList{u"fill"_s, u"Nr:IST:2"_s, u"--target"_s, u"Zyklus"_s, u"--value"_s, u""_s} << 1
             << QString() << QString() << u"SELECT Zyklus FROM HEFTLIST WHERE Nr=2;"_s << u"II"_s;
@@ -64,26 +64,25 @@ class TestCliCommands : public QObject {
             << u"Geänderte Einträge: 1\n"_s << QString() << u"SELECT SUM(GL) FROM HEFTLIST;"_s << u"-1"_s;
         QTest::newRow("fill printing not in its list")
             << QStringList{u"fill"_s, u"Nr:IST:2"_s, u"--target"_s, u"Auflage"_s, u"--value"_s, u"-6-"_s} << 2
-            << QString() << u"Nicht in der Liste von Auflage: -6-\n"_s
-            << u"SELECT SUM(Auflage) FROM HEFTLIST;"_s << u"4"_s;
-        QTest::newRow("fill without value")
-            << QStringList{u"fill"_s, u"Nr:IST:2"_s, u"--target"_s, u"Preis"_s} << 2 << QString() << QString()
-            << price << QString();
+            << QString() << u"Nicht in der Liste von Auflage: -6-\n"_s << u"SELECT SUM(Auflage) FROM HEFTLIST;"_s
+            << u"4"_s;
+        QTest::newRow("fill without value") << QStringList{u"fill"_s, u"Nr:IST:2"_s, u"--target"_s, u"Preis"_s} << 2
+                                            << QString() << QString() << price << QString();
         QTest::newRow("fill unknown column")
             << QStringList{u"fill"_s, u"Nr:IST:2"_s, u"--target"_s, u"Farbe"_s, u"--value"_s, u"rot"_s} << 2
             << QString() << u"Unbekannte Spalte: Farbe\n"_s << QString() << QString();
         QTest::newRow("fill, nothing found")
-            << QStringList{u"fill"_s, u"Nr:IST:9"_s, u"--target"_s, u"Lagerort"_s, u"--value"_s, u"Kiste"_s}
-            << 0 << nothingFound << QString() << u"SELECT COUNT(*) FROM Status WHERE ENum=1;"_s << u"0"_s;
+            << QStringList{u"fill"_s, u"Nr:IST:9"_s, u"--target"_s, u"Lagerort"_s, u"--value"_s, u"Kiste"_s} << 0
+            << nothingFound << QString() << u"SELECT COUNT(*) FROM Status WHERE ENum=1;"_s << u"0"_s;
 
         QTest::newRow("filter list entry, guarded")
             << QStringList{u"filter"_s, u"Zustand:IST:gut"_s} << 0
-            << u"(s.StatusWert='gut' AND s.StatusWert<>'' AND s.ENum=3) \nZustand = 'gut' \n1\n"_s
-            << QString() << QString() << QString();
+            << u"(s.StatusWert='gut' AND s.StatusWert<>'' AND s.ENum=3) \nZustand = 'gut' \n1\n"_s << QString()
+            << QString() << QString();
         // XOR binds weaker than OR: 1 is Lind and older than 1980, so it drops out.
         QTest::newRow("filter list pattern, yes/no, date")
-            << QStringList{u"filter"_s, u"Autor:ÄHNLICH:Lind"_s,      u"EXOR"_s, u"Gelesen:IST:Nein"_s,
-                           u"ODER"_s,   u"Datum:KLEINER:01.01.1980"_s}
+            << QStringList{u"filter"_s, u"Autor:ÄHNLICH:Lind"_s, u"EXOR"_s, u"Gelesen:IST:Nein"_s, u"ODER"_s,
+                           u"Datum:KLEINER:01.01.1980"_s}
             << 0
             << u"h.Autor LIKE '*Lind*' XOR h.GL=0 OR d.Ersterscheinung<DateValue('01.01.1980') \n"
                "Autor ähnlich wie '*Lind*' ENTWEDER ODER Gelesen = Nein ODER Ersterscheinung kleiner als "
@@ -92,14 +91,13 @@ class TestCliCommands : public QObject {
         QTest::newRow("filter printing, nothing found")
             << QStringList{u"filter"_s, u"Auflage:IST:-3-"_s} << 0
             << u"h.Auflage=3 \nAuflage = 3 \n"_s + nothingFound << QString() << QString() << QString();
-        QTest::newRow("filter refused cycle") << QStringList{u"filter"_s, u"Zyklus:GRÖßER:0"_s} << 1
-                                              << QString() << QString() << QString() << QString();
-        QTest::newRow("filter failed statement")
-            << QStringList{u"filter"_s, u"Nr:IST:"_s} << 1 << u"h.Nr= \nNummer = <LEER> \n"_s << QString()
-            << QString() << QString();
-        QTest::newRow("filter unknown field")
-            << QStringList{u"filter"_s, u"Farbe:IST:rot"_s} << 2 << QString()
-            << u"Unbekanntes Feld: Farbe\n"_s << QString() << QString();
+        QTest::newRow("filter refused cycle") << QStringList{u"filter"_s, u"Zyklus:GRÖßER:0"_s} << 1 << QString()
+                                              << QString() << QString() << QString();
+        QTest::newRow("filter failed statement") << QStringList{u"filter"_s, u"Nr:IST:"_s} << 1
+                                                 << u"h.Nr= \nNummer = <LEER> \n"_s << QString() << QString()
+                                                 << QString();
+        QTest::newRow("filter unknown field") << QStringList{u"filter"_s, u"Farbe:IST:rot"_s} << 2 << QString()
+                                              << u"Unbekanntes Feld: Farbe\n"_s << QString() << QString();
         QTest::newRow("filter unknown join")
             << QStringList{u"filter"_s, u"Nr:IST:1"_s, u"ABER"_s, u"Nr:IST:2"_s} << 2 << QString()
             << u"Unbekanntes Verknüpfungswort: ABER\n"_s << QString() << QString();
@@ -130,7 +128,8 @@ class TestCliCommands : public QObject {
             << QString() << QString();
     }
 
-    void commands() {
+    void commands()
+    {
         QFETCH(QStringList, arguments);
         QFETCH(int, code);
         QFETCH(QString, out);

@@ -17,22 +17,23 @@ using namespace Qt::StringLiterals;
 class TestCliCycles : public QObject {
     Q_OBJECT
 
-  private Q_SLOTS:
-    void exportCycles_data() {
+private Q_SLOTS:
+    void exportCycles_data()
+    {
         QTest::addColumn<QString>("cycleFile"); // below the temporary folder
         QTest::addColumn<QStringList>("options");
         QTest::addColumn<int>("code");
         QTest::addColumn<QString>("written"); // below the temporary folder, empty for none
         QTest::newRow("in DBs") << u"DBs/Valdorin Zyklus.mdb"_s << QStringList{} << 0
                                 << u"export/Valdorin-Zyklus.dat"_s;
-        QTest::newRow("series given, beside the file")
-            << u"Liste.mdb"_s << QStringList{u"--series"_s, u"Valdorin"_s} << 0
-            << u"export/Valdorin-Zyklus.dat"_s;
+        QTest::newRow("series given, beside the file") << u"Liste.mdb"_s << QStringList{u"--series"_s, u"Valdorin"_s}
+                                                       << 0 << u"export/Valdorin-Zyklus.dat"_s;
         QTest::newRow("series unknown") << u"Liste.mdb"_s << QStringList{} << 2 << QString();
         QTest::newRow("no such file") << u"Fehlt Zyklus.mdb"_s << QStringList{} << 1 << QString();
     }
 
-    void exportCycles() {
+    void exportCycles()
+    {
         QFETCH(QString, cycleFile);
         QFETCH(QStringList, options);
         QFETCH(int, code);
@@ -59,8 +60,8 @@ class TestCliCycles : public QObject {
         const QByteArray bytes = file.readAll();
         QVERIFY(bytes.endsWith("\"I\";\"1\";\"50\";\"-3\";\"9\";\"Anfang\";\"\";\r\n"));
         QCOMPARE(run.out, u"Ein Eintrag wurde in die Datei\n'%1'\ngesichert (%2 Bytes Dateilänge).\n"_s
-                              .arg(QDir::toNativeSeparators(file.fileName()))
-                              .arg(bytes.size()));
+                          .arg(QDir::toNativeSeparators(file.fileName()))
+                          .arg(bytes.size()));
     }
 };
 

@@ -16,7 +16,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString Tool(const QString& program, const QStringList& arguments) {
+QString Tool(const QString& program, const QStringList& arguments)
+{
     QProcess process;
     process.start(program, arguments);
     process.waitForFinished(30000);
@@ -28,17 +29,18 @@ QString Tool(const QString& program, const QStringList& arguments) {
 class TestCliPrint : public QObject {
     Q_OBJECT
 
-  private Q_SLOTS:
-    void initTestCase() {
+private Q_SLOTS:
+    void initTestCase()
+    {
         const QDir shipped(QStringLiteral(HEFTARIUM_RUNTIME_DIR));
         QDir(m_dir.path()).mkpath(u"DBs"_s);
         QDir(m_dir.path()).mkpath(u"bm"_s);
-        QVERIFY(
-            QFile::copy(shipped.filePath(u"DBs/Heftarium.mdb"_s), m_dir.filePath(u"DBs/Heftarium.mdb"_s)));
+        QVERIFY(QFile::copy(shipped.filePath(u"DBs/Heftarium.mdb"_s), m_dir.filePath(u"DBs/Heftarium.mdb"_s)));
         QVERIFY(QFile::copy(shipped.filePath(u"bm/Logo.svg"_s), m_dir.filePath(u"bm/Logo.svg"_s)));
     }
 
-    void printToPdf_data() {
+    void printToPdf_data()
+    {
         QTest::addColumn<QStringList>("words"); // behind "print"
         QTest::addColumn<QString>("size");
         QTest::addColumn<QStringList>("lines"); // pdftotext lines, blanks squeezed
@@ -49,14 +51,13 @@ class TestCliPrint : public QObject {
         QTest::newRow("list in landscape")
             << QStringList{u"list"_s, u"--landscape"_s} << u"842 x 595 pts (A4)"_s
             << QStringList{u"Nr Autor Titel AL Zyklus GL Bemerkung"_s, u"Valdorin Heftromane Nummer 1-"_s};
-        QTest::newRow("filter list") << QStringList{u"filter"_s, u"Nr:KLEINER:11"_s}
-                                     << u"595 x 842 pts (A4)"_s
-                                     << QStringList{
-                                            u"Valdorin Heftromane gefiltert nach: Nummer kleiner als 11"_s,
-                                            u"Seite 1 von 1"_s};
+        QTest::newRow("filter list")
+            << QStringList{u"filter"_s, u"Nr:KLEINER:11"_s} << u"595 x 842 pts (A4)"_s
+            << QStringList{u"Valdorin Heftromane gefiltert nach: Nummer kleiner als 11"_s, u"Seite 1 von 1"_s};
     }
 
-    void printToPdf() {
+    void printToPdf()
+    {
         QFETCH(QStringList, words);
         const QString pdf = m_dir.filePath(u"seiten.pdf"_s);
         const heft::test::CliRun run = heft::test::RunCliWith(
@@ -76,7 +77,7 @@ class TestCliPrint : public QObject {
             QVERIFY2(squeezed.filter(line).size() > 0, qPrintable(line + u"\n"_s + squeezed.join(u'\n')));
     }
 
-  private:
+private:
     QTemporaryDir m_dir;
 };
 

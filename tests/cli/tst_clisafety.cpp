@@ -23,14 +23,16 @@ using namespace heft;
 
 namespace {
 
-int Run(const QStringList& arguments, QString* out = nullptr) {
+int Run(const QStringList& arguments, QString* out = nullptr)
+{
     const test::CliRun run = test::RunCliWith(arguments);
     if (out)
         *out = run.out + run.err;
     return run.code;
 }
 
-QString Shipped(const QTemporaryDir& dir) {
+QString Shipped(const QTemporaryDir& dir)
+{
     const QString path = dir.filePath(u"VN-HR.mdb"_s);
     QFile::copy(HEFTARIUM_RUNTIME_DIR "/DBs/VN-HR.mdb"_L1, path);
     return path;
@@ -39,17 +41,16 @@ QString Shipped(const QTemporaryDir& dir) {
 // What makes each entry whole, wherever renumbering put it (at nr or at
 // nr + 50000): its one Details row at a number with a list row, and its
 // attributes but the stamp and the place the fill writes.
-QStringList Wholeness(const QString& path, const QList<int>& numbers) {
+QStringList Wholeness(const QString& path, const QList<int>& numbers)
+{
     DbError error;
     const auto db = Database::Open(path, &error);
     QStringList signatures;
     for (int nr : numbers)
-        signatures << db->SelectValue(
-                            u"SELECT (SELECT COUNT(*) FROM Details WHERE Nr IN (%1, %2) AND Nr IN (SELECT Nr "
-                            "FROM HEFTLIST)) || '/' || (SELECT COUNT(*) FROM Status WHERE ENum NOT IN (1, 7) "
-                            "AND Nr IN (%1, %2));"_s.arg(nr)
-                                .arg(nr + 50000))
-                          .toString();
+        signatures << db->SelectValue(u"SELECT (SELECT COUNT(*) FROM Details WHERE Nr IN (%1, %2) AND Nr IN (SELECT Nr "
+                                      "FROM HEFTLIST)) || '/' || (SELECT COUNT(*) FROM Status WHERE ENum NOT IN (1, 7) "
+                                      "AND Nr IN (%1, %2));"_s.arg(nr).arg(nr + 50000))
+                              .toString();
     signatures << CheckCollection(*db, {});
     return signatures;
 }
@@ -59,8 +60,9 @@ QStringList Wholeness(const QString& path, const QList<int>& numbers) {
 class TestCliSafety : public QObject {
     Q_OBJECT
 
-  private Q_SLOTS:
-    void checkAndBackup() {
+private Q_SLOTS:
+    void checkAndBackup()
+    {
         QTemporaryDir dir;
         const QString db = Shipped(dir);
         QString out;
@@ -76,15 +78,14 @@ class TestCliSafety : public QObject {
         QCOMPARE(Run({u"--db"_s, db, u"sql"_s, u"INSERT INTO Status VALUES (999999, 5, '12');"_s}), 0);
         QCOMPARE(Run({u"--db"_s, db, u"check"_s}, &out), 1);
         QVERIFY2(out.contains(u"Status: 1 Zeile(n) ohne Eintrag in HEFTLIST"_s) &&
-                     out.contains(u"Status: 1 Zahlenwert(e) nicht"_s),
-                 qPrintable(out));
+                     out.contains(u"Status: 1 Zahlenwert(e) nicht"_s), qPrintable(out));
         // The copy of before holds what the file held then.
-        const QString copy =
-            dir.filePath(u"VN-HR-%1.mdb"_s.arg(QDate::currentDate().toString(u"yyyy-MM-dd"_s)));
+        const QString copy = dir.filePath(u"VN-HR-%1.mdb"_s.arg(QDate::currentDate().toString(u"yyyy-MM-dd"_s)));
         QCOMPARE(Run({u"--db"_s, copy, u"check"_s}), 0);
     }
 
-    void hostileValues_data() {
+    void hostileValues_data()
+    {
         QTest::addColumn<QString>("value");
         QTest::newRow("Apostrophe") << u"O'Neil's ''Heft'' '"_s;
         QTest::newRow("Zeilenenden") << u"a\r\nb\rc\nd"_s;
@@ -92,11 +93,11 @@ class TestCliSafety : public QObject {
         QTest::newRow("lang") << QString(10000, u'ß');
         QTest::newRow("Emoji") << u"Start 🚀"_s;
     }
-    void hostileValues() {
+    void hostileValues()
+    {
         QFETCH(QString, value);
         test::TempCollection c;
-        c.Add(
-            {{1, u"Erster"_s, u"Eins"_s}, {2, u"Zweiter"_s, u"Zwei"_s, 0, u"- - -"_s, false, u"Nachbar"_s}});
+        c.Add({{1, u"Erster"_s, u"Eins"_s}, {2, u"Zweiter"_s, u"Zwei"_s, 0, u"- - -"_s, false, u"Nachbar"_s}});
         // The editor's save, with the length its box takes.
         Session& s = c.session;
         s.EditMode = true;
@@ -107,8 +108,7 @@ class TestCliSafety : public QObject {
         // Column fill, filter and export through the cli.
         const QString path = c.Path();
         c.Close();
-        QCOMPARE(Run({u"--db"_s, path, u"fill"_s, u"Nr:IST:1"_s, u"--target"_s, u"Lagerort"_s, u"--value"_s,
-                      value}),
+        QCOMPARE(Run({u"--db"_s, path, u"fill"_s, u"Nr:IST:1"_s, u"--target"_s, u"Lagerort"_s, u"--value"_s, value}),
                  0);
         QString found;
         if (Run({u"--db"_s, path, u"filter"_s, u"Titel:IST:"_s + value.left(50)}, &found) == 0)
@@ -118,16 +118,12 @@ class TestCliSafety : public QObject {
         QCOMPARE(Run({u"--db"_s, path, u"export"_s, base, u"--format"_s, u"dat"_s}, &exported), 0);
 
         c.Reopen();
-        QCOMPARE(
-            c.Value(u"SELECT (SELECT COUNT(*) FROM HEFTLIST) || Autor || Titel || Bemerkung FROM HEFTLIST "
-                    "WHERE Nr=2;"_s)
-                .toString(),
-            u"2ZweiterZweiNachbar"_s);
+        QCOMPARE(c.Value(u"SELECT (SELECT COUNT(*) FROM HEFTLIST) || Autor || Titel || Bemerkung FROM HEFTLIST "
+                         "WHERE Nr=2;"_s).toString(), u"2ZweiterZweiNachbar"_s);
         // The fill writes attributes unquoted: an apostrophe makes it fail quietly.
         const QString stored = value.left(50) + u'|' + (value.contains(u'\'') ? QString() : value.left(128));
         QCOMPARE(c.Value(u"SELECT (SELECT Titel FROM HEFTLIST WHERE Nr=1) || '|' || "
-                         "IFNULL((SELECT StatusWert FROM Status WHERE ENum=7), '');"_s)
-                     .toString(),
+                         "IFNULL((SELECT StatusWert FROM Status WHERE ENum=7), '');"_s).toString(),
                  stored);
         QVERIFY(CheckCollection(*c.session.CollectionDb, {}).isEmpty());
         c.Close();
@@ -148,7 +144,8 @@ class TestCliSafety : public QObject {
     // The cli killed at random moments in an import, a column fill and a run
     // of renumbering saves: every time, the file passes the check and each
     // renumbered entry stands whole at one of its two numbers.
-    void killedAtRandom() {
+    void killedAtRandom()
+    {
         QTemporaryDir dir;
         const QString db = Shipped(dir);
         QList<int> numbers;
@@ -165,8 +162,7 @@ class TestCliSafety : public QObject {
         for (int round = 0; round < 9; ++round) {
             QStringList job{u"--db"_s, db};
             if (round % 3 == 0)
-                job << u"import"_s << HEFTARIUM_DATA_SOURCES "/valdorin/Heftromane.dat"_L1 << u"--mode"_s
-                    << u"1"_s;
+                job << u"import"_s << HEFTARIUM_DATA_SOURCES "/valdorin/Heftromane.dat"_L1 << u"--mode"_s << u"1"_s;
             else if (round % 3 == 1)
                 job << u"fill"_s << u"Nr:GRÖßER:0"_s << u"--target"_s << u"Lagerort"_s << u"--value"_s
                     << QString::number(round);

@@ -11,8 +11,9 @@ using namespace heft;
 class TestCodepage : public QObject {
     Q_OBJECT
 
-  private Q_SLOTS:
-    void everyByteRoundTrips() {
+private Q_SLOTS:
+    void everyByteRoundTrips()
+    {
         QByteArray all(256, '\0');
         for (int byte = 0; byte < 256; ++byte)
             all[byte] = static_cast<char>(byte);
@@ -22,7 +23,8 @@ class TestCodepage : public QObject {
     }
 
     // The fallback table must say what the platform's codec says.
-    void builtInTableMatchesCodec() {
+    void builtInTableMatchesCodec()
+    {
         QStringDecoder decoder("windows-1252");
         if (!decoder.isValid())
             QSKIP("no windows-1252 codec on this platform");
@@ -33,19 +35,17 @@ class TestCodepage : public QObject {
         }
     }
 
-    void encode_data() {
+    void encode_data()
+    {
         QTest::addColumn<QString>("text");
         QTest::addColumn<QByteArray>("bytes");
-        QTest::newRow("euro and quotes") << u"„5 €“ – Žaža"_s
-                                         << "\x84"
-                                            "5 \x80\x93 \x96 \x8e"
-                                            "a\x9e"
-                                            "a"_ba;
+        QTest::newRow("euro and quotes") << u"„5 €“ – Žaža"_s << "\x84" "5 \x80\x93 \x96 \x8e" "a\x9e" "a"_ba;
         QTest::newRow("beyond 16 bits is one character") << u"x😀y"_s << "x?y"_ba;
-        QTest::newRow("lone surrogates")
-            << QString(u"a"_s + QChar(0xd800) + u'b' + QChar(0xdc00) + QChar(0xd83d)) << "a?b??"_ba;
+        QTest::newRow("lone surrogates") << QString(u"a"_s + QChar(0xd800) + u'b' + QChar(0xdc00) + QChar(0xd83d))
+                                         << "a?b??"_ba;
     }
-    void encode() {
+    void encode()
+    {
         QFETCH(QString, text);
         QTEST(ToWindows1252(text), "bytes");
     }

@@ -12,15 +12,15 @@ using heft::test::TempCollection;
 class TestConfig : public QObject {
     Q_OBJECT
 
-  private Q_SLOTS:
+private Q_SLOTS:
 
-    void longValuesAreCut() {
+    void longValuesAreCut()
+    {
         TempCollection collection;
         const QString series = u"Valdorin – Die große Sammelausgabe"_s; // 34 characters
         const QString logo = QString(140, u'l').left(130) + u".svg"_s;
         collection.Exec(u"DELETE FROM KONFIGURATION;"_s);
-        collection.Exec(
-            u"INSERT INTO KONFIGURATION VALUES ('%1', 'Taschenbücher', '%2', NULL);"_s.arg(series, logo));
+        collection.Exec(u"INSERT INTO KONFIGURATION VALUES ('%1', 'Taschenbücher', '%2', NULL);"_s.arg(series, logo));
         collection.session.Config.SplashFile = u"bleibt.svg"_s;
         DbError error;
         QVERIFY(ReadConfiguration(collection.session, &error));
@@ -30,7 +30,8 @@ class TestConfig : public QObject {
         QCOMPARE(collection.session.Config.SplashFile, u"bleibt.svg"_s);
     }
 
-    void emptyOrMissingKonfiguration() {
+    void emptyOrMissingKonfiguration()
+    {
         TempCollection collection;
         collection.session.Config = Configuration{};
         collection.Exec(u"DELETE FROM KONFIGURATION;"_s);
@@ -44,26 +45,27 @@ class TestConfig : public QObject {
     }
 
     // Rows as "key, value"; the shipped rows for keys 1 and 2 are removed.
-    void parameters_data() {
+    void parameters_data()
+    {
         QTest::addColumn<QStringList>("rows");
         QTest::addColumn<int>("maxAuflage");
         QTest::addColumn<int>("contentLimit");
         QTest::addColumn<QString>("pictureRoot");
         QTest::addColumn<QString>("archiveRoot");
-        QTest::newRow("numbers read like Val")
-            << QStringList{u"1, ' 7 Stück'"_s, u"2, '1000,5'"_s} << 7 << 1000 << QString() << QString();
+        QTest::newRow("numbers read like Val") << QStringList{u"1, ' 7 Stück'"_s, u"2, '1000,5'"_s} << 7 << 1000
+                                               << QString() << QString();
         QTest::newRow("too large for its variable")
             << QStringList{u"1, '256'"_s, u"2, '40000'"_s} << 5 << 255 << QString() << QString();
         QTest::newRow("folders") << QStringList{u"3, '/mnt/bilder'"_s, u"4, '/media/archiv'"_s} << 5 << 255
                                  << u"/mnt/bilder"_s << u"/media/archiv"_s;
         QTest::newRow("other keys and Null ignored")
-            << QStringList{u"5, '3'"_s, u"0, '3'"_s, u"NULL, '3'"_s, u"1, NULL"_s} << 5 << 255 << QString()
-            << QString();
+            << QStringList{u"5, '3'"_s, u"0, '3'"_s, u"NULL, '3'"_s, u"1, NULL"_s} << 5 << 255 << QString() << QString();
         QTest::newRow("no parameter table") << QStringList() << 5 << 255 << QString() << QString();
-        QTest::newRow("last row wins")
-            << QStringList{u"1, '3'"_s, u"1, '4'"_s} << 4 << 255 << QString() << QString();
+        QTest::newRow("last row wins") << QStringList{u"1, '3'"_s, u"1, '4'"_s} << 4 << 255 << QString()
+                                       << QString();
     }
-    void parameters() {
+    void parameters()
+    {
         QFETCH(QStringList, rows);
         QFETCH(QString, pictureRoot);
         QFETCH(QString, archiveRoot);

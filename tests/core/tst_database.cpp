@@ -20,7 +20,8 @@ using namespace heft::test;
 class TestDatabase : public QObject {
     Q_OBJECT
 
-    static QStringList Column(Database& db, const QString& sql) {
+    static QStringList Column(Database& db, const QString& sql)
+    {
         DbError error;
         Query query = db.Select(sql, &error);
         if (error)
@@ -31,8 +32,9 @@ class TestDatabase : public QObject {
         return values;
     }
 
-  private Q_SLOTS:
-    void jetLike_data() {
+private Q_SLOTS:
+    void jetLike_data()
+    {
         QTest::addColumn<QString>("pattern");
         QTest::addColumn<QString>("text");
         QTest::addColumn<bool>("matches");
@@ -57,14 +59,16 @@ class TestDatabase : public QObject {
         QTest::newRow("unclosed bracket no list") << u"a[b"_s << u"ab"_s << false;
         QTest::newRow("nothing typed") << u"**"_s << QString() << true;
     }
-    void jetLike() {
+    void jetLike()
+    {
         QFETCH(QString, pattern);
         QFETCH(QString, text);
         QTEST(JetLike(pattern, text), "matches");
     }
 
     // Jet binds NOT, AND, OR, then XOR; a NULL operand makes XOR NULL.
-    void xorPrecedenceAndNull_data() {
+    void xorPrecedenceAndNull_data()
+    {
         QTest::addColumn<QString>("where");
         QTest::addColumn<QStringList>("found");
         QTest::newRow("and or") << u"Nr=1 AND Autor='A' XOR Nr=2 OR Nr=3"_s
@@ -72,10 +76,12 @@ class TestDatabase : public QObject {
         QTest::newRow("or binds tighter") << u"Nr>=1 XOR Nr=2 OR Nr=3"_s << QStringList{u"1"_s, u"4"_s};
         // Bemerkung is NULL on rows 3 and 4: the comparison is NULL, so is XOR.
         QTest::newRow("null operand") << u"Bemerkung='x' XOR Nr>0"_s << QStringList{u"2"_s};
-        QTest::newRow("string with xor word") << u"Titel='a XOR b' XOR Nr=4"_s << QStringList{u"3"_s, u"4"_s};
+        QTest::newRow("string with xor word") << u"Titel='a XOR b' XOR Nr=4"_s
+                                              << QStringList{u"3"_s, u"4"_s};
         QTest::newRow("like on null") << u"Bemerkung LIKE '*'"_s << QStringList{u"1"_s, u"2"_s};
     }
-    void xorPrecedenceAndNull() {
+    void xorPrecedenceAndNull()
+    {
         QFETCH(QString, where);
         QFETCH(QStringList, found);
         TempCollection c;
@@ -83,12 +89,12 @@ class TestDatabase : public QObject {
                {2, u"B"_s, u"t"_s, 0, u"- - -"_s, false, u"y"_s},
                {3, u"A"_s, u"a XOR b"_s},
                {4, u"B"_s, u"t"_s}});
-        QCOMPARE(
-            Column(*c.session.CollectionDb, u"SELECT Nr FROM HEFTLIST WHERE "_s + where + u" ORDER BY Nr;"_s),
-            found);
+        QCOMPARE(Column(*c.session.CollectionDb, u"SELECT Nr FROM HEFTLIST WHERE "_s + where + u" ORDER BY Nr;"_s),
+                 found);
     }
 
-    void jetDateValue_data() {
+    void jetDateValue_data()
+    {
         QTest::addColumn<QString>("text");
         QTest::addColumn<qint64>("days");
         QTest::newRow("german") << u"01.01.1900"_s << qint64(2);
@@ -100,29 +106,26 @@ class TestDatabase : public QObject {
         QTest::newRow("Jänner") << u"2006-Jänner-05"_s << QDate(1899, 12, 30).daysTo(QDate(2006, 1, 5));
         QTest::newRow("no month") << u"2006-Nebel-05"_s << qint64(-1);
     }
-    void jetDateValue() {
+    void jetDateValue()
+    {
         QFETCH(QString, text);
         QTEST(JetDateValue(text).value_or(-1), "days");
     }
 
-    void germanCaseBlindOrder() {
+    void germanCaseBlindOrder()
+    {
         TempCollection c;
-        c.Add({{1, u"Zander"_s, u"t"_s},
-               {2, u"ärger"_s, u"t"_s},
-               {3, u"Ahorn"_s, u"t"_s},
-               {4, u"AHORN"_s, u"t"_s},
-               {5, u"Baum"_s, u"t"_s},
-               {6, u"Öde"_s, u"t"_s},
-               {7, u"ode"_s, u"t"_s}});
+        c.Add({{1, u"Zander"_s, u"t"_s}, {2, u"ärger"_s, u"t"_s}, {3, u"Ahorn"_s, u"t"_s},
+               {4, u"AHORN"_s, u"t"_s}, {5, u"Baum"_s, u"t"_s}, {6, u"Öde"_s, u"t"_s}, {7, u"ode"_s, u"t"_s}});
         Database& db = *c.session.CollectionDb;
         QCOMPARE(Column(db, u"SELECT Nr FROM HEFTLIST WHERE Autor='ahorn' ORDER BY Nr;"_s),
                  (QStringList{u"3"_s, u"4"_s}));
-        const QStringList ordered =
-            Column(db, u"SELECT Autor FROM HEFTLIST WHERE Nr<>4 ORDER BY Autor, Nr;"_s);
+        const QStringList ordered = Column(db, u"SELECT Autor FROM HEFTLIST WHERE Nr<>4 ORDER BY Autor, Nr;"_s);
         QCOMPARE(ordered, (QStringList{u"Ahorn"_s, u"ärger"_s, u"Baum"_s, u"ode"_s, u"Öde"_s, u"Zander"_s}));
     }
 
-    void yesNoColumnsReadMinusOne() {
+    void yesNoColumnsReadMinusOne()
+    {
         TempCollection c;
         c.Exec(u"INSERT INTO HEFTLIST (Nr, Autor, Titel, Auflage, Zyklus, GL, Bemerkung) "
                "VALUES (1, 'A', 'T', 0, 'I', 255, '');"_s);
@@ -135,7 +138,8 @@ class TestDatabase : public QObject {
         QCOMPARE(c.Value(u"SELECT COUNT(*) FROM HEFTLIST WHERE GL=-1;"_s).toInt(), 2);
     }
 
-    void errorNumbers_data() {
+    void errorNumbers_data()
+    {
         QTest::addColumn<QString>("sql");
         QTest::addColumn<int>("number");
         QTest::addColumn<QString>("description");
@@ -143,34 +147,33 @@ class TestDatabase : public QObject {
                                    << u"The changes you requested to the table were not successful*"_s;
         QTest::newRow("empty author") << u"UPDATE HEFTLIST SET Autor='' WHERE Nr=1;"_s << 3315
                                       << u"Field 'HEFTLIST.Autor' cannot be a zero-length string."_s;
-        QTest::newRow("too long")
-            << u"INSERT INTO Status VALUES (1, 3, '%1');"_s.arg(QString(129, u'x')) << 3163
-            << u"The field is too small to accept the amount of data you attempted to add.*"_s;
+        QTest::newRow("too long") << u"INSERT INTO Status VALUES (1, 3, '%1');"_s.arg(QString(129, u'x')) << 3163
+                                  << u"The field is too small to accept the amount of data you attempted to add.*"_s;
         QTest::newRow("text after end") << u"DELETE FROM HEFTLIST WHERE Nr=1; DELETE FROM Status;"_s << 3142
                                         << u"Characters found after end of SQL statement."_s;
-        QTest::newRow("one trailing semicolon and blanks")
-            << u"UPDATE Status SET ENum=2;  \r\n"_s << 0 << QString();
+        QTest::newRow("one trailing semicolon and blanks") << u"UPDATE Status SET ENum=2;  \r\n"_s << 0 << QString();
         QTest::newRow("two semicolons") << u"UPDATE Status SET ENum=2;;"_s << 3142 << u"Characters found*"_s;
         QTest::newRow("syntax") << u"SELECT FROM WHERE;"_s << 3075 << u"Syntax error (missing operator)*"_s;
-        QTest::newRow("update syntax")
-            << u"UPDATE HEFTLIST SET WHERE Nr=1;"_s << 3144 << u"Syntax error in UPDATE statement."_s;
-        QTest::newRow("byte overflow")
-            << u"UPDATE HEFTLIST SET Auflage=256 WHERE Nr=1;"_s << 3349 << u"Numeric field overflow."_s;
-        QTest::newRow("table exists")
-            << u"CREATE TABLE Status (Nr LONG);"_s << 3010 << u"Table 'Status' already exists."_s;
+        QTest::newRow("update syntax") << u"UPDATE HEFTLIST SET WHERE Nr=1;"_s << 3144
+                                       << u"Syntax error in UPDATE statement."_s;
+        QTest::newRow("byte overflow") << u"UPDATE HEFTLIST SET Auflage=256 WHERE Nr=1;"_s << 3349
+                                       << u"Numeric field overflow."_s;
+        QTest::newRow("table exists") << u"CREATE TABLE Status (Nr LONG);"_s << 3010
+                                      << u"Table 'Status' already exists."_s;
         QTest::newRow("no table") << u"SELECT * FROM Fehlt;"_s << 3078 << u"*'Fehlt'*"_s;
         QTest::newRow("null yes/no") << u"UPDATE HEFTLIST SET GL=NULL;"_s << 3314 << u"*'HEFTLIST.GL'*"_s;
         QTest::newRow("stray apostrophe") << u"INSERT INTO Status VALUES (1, 4, 'Kim's');"_s << 3134
                                           << u"Syntax error in INSERT INTO statement."_s;
         QTest::newRow("no column") << u"UPDATE HEFTLIST SET Fehlt=1;"_s << 3061 << u"Too few parameters*"_s;
-        QTest::newRow("index exists")
-            << u"CREATE INDEX INS1 ON Status (Nr);"_s << 3375 << u"An index named 'INS1' already exists."_s;
+        QTest::newRow("index exists") << u"CREATE INDEX INS1 ON Status (Nr);"_s << 3375
+                                      << u"An index named 'INS1' already exists."_s;
         QTest::newRow("mismatch") << u"SELECT Nr FROM HEFTLIST LIMIT 'x';"_s << 3464
                                   << u"Data type mismatch in criteria expression."_s;
         QTest::newRow("other engine error") << u"SELECT abs(1, 2);"_s << 3000 << u"wrong number of arg*"_s;
         QTest::newRow("no statement") << u" ;"_s << 3129 << u"Invalid SQL statement; expected 'DELETE'*"_s;
     }
-    void errorNumbers() {
+    void errorNumbers()
+    {
         QFETCH(QString, sql);
         QFETCH(int, number);
         QFETCH(QString, description);
@@ -184,7 +187,8 @@ class TestDatabase : public QObject {
         QCOMPARE(c.Value(u"SELECT COUNT(*) FROM Status;"_s).toInt(), 1);
     }
 
-    void openFailures() {
+    void openFailures()
+    {
         TempCollection c;
         DbError error;
         QVERIFY(!Database::Open(c.Path(), &error));
@@ -195,23 +199,24 @@ class TestDatabase : public QObject {
         QCOMPARE(error.number, 3024);
     }
 
-    void shapes_data() {
+    void shapes_data()
+    {
         QTest::addColumn<QString>("sql");
         QTest::addColumn<QString>("shape"); // empty: none
         QTest::addColumn<QStringList>("values");
 
-        QTest::newRow("insert")
-            << u"INSERT INTO Status (Nr, ENum, StatusWert) VALUES (12, 3, 'O''Neill €');"_s
-            << u"INSERT INTO Status (Nr, ENum, StatusWert) VALUES (?, ?, ?);"_s
-            << QStringList{u"12"_s, u"3"_s, u"O'Neill €"_s};
+        QTest::newRow("insert") << u"INSERT INTO Status (Nr, ENum, StatusWert) VALUES (12, 3, 'O''Neill €');"_s
+                                << u"INSERT INTO Status (Nr, ENum, StatusWert) VALUES (?, ?, ?);"_s
+                                << QStringList{u"12"_s, u"3"_s, u"O'Neill €"_s};
         QTest::newRow("names with digits, negative and real numbers")
             << u"UPDATE Details SET Person1='a', Nr=-4.5 WHERE Nr=7;"_s
-            << u"UPDATE Details SET Person1=?, Nr=-? WHERE Nr=?;"_s << QStringList{u"a"_s, u"4.5"_s, u"7"_s};
+            << u"UPDATE Details SET Person1=?, Nr=-? WHERE Nr=?;"_s
+            << QStringList{u"a"_s, u"4.5"_s, u"7"_s};
         QTest::newRow("select values after FROM")
-            << u"SELECT * FROM Links WHERE Nr=5 AND Enum=1"_s
-            << u"SELECT * FROM Links WHERE Nr=? AND Enum=?"_s << QStringList{u"5"_s, u"1"_s};
-        QTest::newRow("nothing to take out")
-            << u"SELECT MAX(Nr) FROM HEFTLIST ;"_s << u"SELECT MAX(Nr) FROM HEFTLIST ;"_s << QStringList();
+            << u"SELECT * FROM Links WHERE Nr=5 AND Enum=1"_s << u"SELECT * FROM Links WHERE Nr=? AND Enum=?"_s
+            << QStringList{u"5"_s, u"1"_s};
+        QTest::newRow("nothing to take out") << u"SELECT MAX(Nr) FROM HEFTLIST ;"_s
+                                             << u"SELECT MAX(Nr) FROM HEFTLIST ;"_s << QStringList();
         for (const QString& none :
              {u"SELECT 'x', Nr FROM HEFTLIST;"_s, u"SELECT Nr FROM HEFTLIST ORDER BY 1;"_s,
               u"CREATE TABLE T (A TEXT(5));"_s, u"SELECT * FROM H WHERE A=1 XOR B=2;"_s,
@@ -220,7 +225,8 @@ class TestDatabase : public QObject {
             QTest::newRow(qPrintable(none)) << none << QString() << QStringList();
     }
 
-    void shapes() {
+    void shapes()
+    {
         QFETCH(QString, sql);
         QFETCH(QString, shape);
         const std::optional<SqlShape> found = ShapeOf(sql);
@@ -234,12 +240,12 @@ class TestDatabase : public QObject {
         QTEST(literals, "values");
     }
 
-    void keptStatements() {
+    void keptStatements()
+    {
         test::TempCollection c;
         Database& db = *c.session.CollectionDb;
-        const QString insert =
-            u"INSERT INTO HEFTLIST (Nr, Autor, Titel, Auflage, Zyklus, GL) VALUES (%1, '%2', 'T', 1, "
-            "'I', 255);"_s;
+        const QString insert = u"INSERT INTO HEFTLIST (Nr, Autor, Titel, Auflage, Zyklus, GL) VALUES (%1, '%2', 'T', 1, "
+                               "'I', 255);"_s;
         QCOMPARE(db.Execute(insert.arg(1).arg(u"O'Neill"_s.replace(u"'"_s, u"''"_s))).number, 0);
         QCOMPARE(db.Execute(insert.arg(2).arg(u"B"_s)).number, 0);
         QCOMPARE(db.Execute(insert.arg(2).arg(u"C"_s)).number, JetDuplicateKey);

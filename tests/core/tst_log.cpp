@@ -12,7 +12,8 @@ using namespace heft;
 
 namespace {
 
-QByteArray ReadAll(const QString& path) {
+QByteArray ReadAll(const QString& path)
+{
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
@@ -22,8 +23,9 @@ QByteArray ReadAll(const QString& path) {
 class TestLog : public QObject {
     Q_OBJECT
 
-  private Q_SLOTS:
-    void entry_data() {
+private Q_SLOTS:
+    void entry_data()
+    {
         QTest::addColumn<int>("code");
         QTest::addColumn<QString>("text");
         QTest::addColumn<QByteArray>("expected");
@@ -34,7 +36,8 @@ class TestLog : public QObject {
             << -1 << u"Beschreibung\nSELECT 1;\rEnde"_s
             << "DELETE FROM HEFTLIST;\r\n[Fehler -1]\r\nBeschreibung\r\nSELECT 1;\r\nEnde\r\n"_ba;
     }
-    void entry() {
+    void entry()
+    {
         QFETCH(int, code);
         QFETCH(QString, text);
         QTemporaryDir dir;
@@ -45,7 +48,8 @@ class TestLog : public QObject {
 
     // The placement written at exit is read back on the next start. The
     // screen is 20000 x 15000 twips; the default is 9000 x 6000 at 100/200.
-    void placement_data() {
+    void placement_data()
+    {
         QTest::addColumn<QByteArray>("log");
         QTest::addColumn<QList<int>>("expected");
         const QList<int> unchanged = {9000, 6000, 100, 200};
@@ -56,12 +60,12 @@ class TestLog : public QObject {
         QTest::newRow("left keeps the new width on screen")
             << "[Konfig]\r\nFB=15000\r\nFX=5001\r\nFY=9000\r\n"_ba << QList<int>{15000, 6000, 100, 9000};
         QTest::newRow("lines before the entry are ignored")
-            << "FB=12000\r\n[Info]\r\nstart\r\n\r\n[Konfig]\r\nFY=700\r\n"_ba
-            << QList<int>{9000, 6000, 100, 700};
-        QTest::newRow("LF only and trailing text")
-            << "[Konfig]\nFB=9500 twips\nFX=50\n"_ba << QList<int>{9500, 6000, 50, 200};
+            << "FB=12000\r\n[Info]\r\nstart\r\n\r\n[Konfig]\r\nFY=700\r\n"_ba << QList<int>{9000, 6000, 100, 700};
+        QTest::newRow("LF only and trailing text") << "[Konfig]\nFB=9500 twips\nFX=50\n"_ba
+                                                   << QList<int>{9500, 6000, 50, 200};
     }
-    void placement() {
+    void placement()
+    {
         QFETCH(QByteArray, log);
         QTemporaryDir dir;
         const QString path = dir.filePath(u"Heftarium.old"_s);

@@ -22,7 +22,8 @@ namespace {
 
 // A change of one entry as the editor makes it: renumbered with all it has,
 // and a good many attributes that need room in the file.
-void RenumberInUnit(Session& session, int oldNr, int newNr) {
+void RenumberInUnit(Session& session, int oldNr, int newNr)
+{
     ChangeUnit unit(session);
     session.EditMode = true;
     session.OldNr = oldNr;
@@ -30,8 +31,7 @@ void RenumberInUnit(Session& session, int oldNr, int newNr) {
     if (InsertEntry(session) == ExecuteDone)
         MoveEntryRows(session, oldNr, newNr);
     for (int enumber = 2; enumber <= 120; ++enumber)
-        ExecuteSql(session, u"INSERT INTO Status VALUES (%1, %2, '%3');"_s.arg(newNr).arg(enumber).arg(
-                                QString(120, u'w')));
+        ExecuteSql(session, u"INSERT INTO Status VALUES (%1, %2, '%3');"_s.arg(newNr).arg(enumber).arg(QString(120, u'w')));
 }
 
 } // namespace
@@ -39,16 +39,18 @@ void RenumberInUnit(Session& session, int oldNr, int newNr) {
 class TestSafety : public QObject {
     Q_OBJECT
 
-  private Q_SLOTS:
-    void damagedFile_data() {
-        QTest::addColumn<qint64>("cutTo");   // -1: keep the length
-        QTest::addColumn<qint64>("noiseAt"); // -1: no garbage; in per mille of the length
-        QTest::addColumn<int>("openError");  // 0: opens, and the first change finds the damage
+private Q_SLOTS:
+    void damagedFile_data()
+    {
+        QTest::addColumn<qint64>("cutTo");    // -1: keep the length
+        QTest::addColumn<qint64>("noiseAt");  // -1: no garbage; in per mille of the length
+        QTest::addColumn<int>("openError");   // 0: opens, and the first change finds the damage
         QTest::newRow("abgeschnitten") << 500LL << -1LL << int(JetDamaged);
         QTest::newRow("Zufallsbytes") << 0LL << 0LL << int(JetNotADatabase);
         QTest::newRow("Müll in der Mitte") << -1LL << 500LL << 0;
     }
-    void damagedFile() {
+    void damagedFile()
+    {
         QFETCH(qint64, cutTo);
         QFETCH(qint64, noiseAt);
         test::TempCollection c;
@@ -78,7 +80,8 @@ class TestSafety : public QObject {
         QCOMPARE(bytes(), before);
     }
 
-    void lostChange_data() {
+    void lostChange_data()
+    {
         QTest::addColumn<QString>("cause");
         QTest::addColumn<int>("error");
         QTest::newRow("Platte voll") << u"PRAGMA max_page_count=%1;"_s << int(JetDiskFull);
@@ -88,7 +91,8 @@ class TestSafety : public QObject {
         // The file may not grow: the write fails as on a failing medium.
         QTest::newRow("Schreibfehler") << u"RLIMIT_FSIZE"_s << int(JetDiskError);
     }
-    void lostChange() {
+    void lostChange()
+    {
         QFETCH(QString, cause);
         QFETCH(int, error);
         const bool folderGone = cause.isEmpty();
@@ -117,8 +121,7 @@ class TestSafety : public QObject {
         QCOMPARE(c.prompter.asked.size(), 1);
         QVERIFY(c.prompter.asked[0].text.contains(QDir::toNativeSeparators(c.Path())));
         QFile log(c.session.log.Path());
-        QVERIFY(log.open(QIODevice::ReadOnly) &&
-                log.readAll().contains(u"[Fehler %1]"_s.arg(error).toUtf8()));
+        QVERIFY(log.open(QIODevice::ReadOnly) && log.readAll().contains(u"[Fehler %1]"_s.arg(error).toUtf8()));
         // The file stands as before the lost change, and takes the next one.
         QCOMPARE(c.Value(u"SELECT COUNT(*) FROM Details WHERE Nr=2;"_s).toInt(), 1);
         QCOMPARE(c.Value(u"SELECT COUNT(*) FROM Status WHERE Nr=3;"_s).toInt(), 0);

@@ -15,16 +15,19 @@ using namespace heft::test;
 
 namespace {
 
-QString LogText(const TempCollection& c) {
+QString LogText(const TempCollection& c)
+{
     QFile f(c.session.log.Path());
     return f.open(QIODevice::ReadOnly) ? QString::fromUtf8(f.readAll()) : QString();
 }
 
-int Count(TempCollection& c, const QString& table, int nr) {
+int Count(TempCollection& c, const QString& table, int nr)
+{
     return c.Value(u"SELECT COUNT(*) FROM %1 WHERE Nr=%2;"_s.arg(table).arg(nr)).toInt();
 }
 
-void AddDependents(TempCollection& c, int nr) {
+void AddDependents(TempCollection& c, int nr)
+{
     c.Exec(u"INSERT INTO Details (Nr, Untertitel) VALUES (%1, 'u');"_s.arg(nr));
     c.Exec(u"INSERT INTO Gestaltung (Nr, TiBiZeichner) VALUES (%1, 'z');"_s.arg(nr));
     c.Exec(u"INSERT INTO Status VALUES (%1, 2, '0000001');"_s.arg(nr));
@@ -36,26 +39,26 @@ void AddDependents(TempCollection& c, int nr) {
 class TestSqlWriters : public QObject {
     Q_OBJECT
 
-  private Q_SLOTS:
-    void statementsAreExact() {
+private Q_SLOTS:
+    void statementsAreExact()
+    {
         TempCollection c;
         // A typed "%5" stays text: the values are put in in one pass.
         c.session.Entry = {12, u"O''Brian"_s, u"Titel %5"_s, 2, u"IV"_s, true, u""_s};
         BuildInsertEntrySql(c.session);
-        QCOMPARE(c.session.CurrentSql,
-                 u"INSERT INTO HEFTLIST (Nr, Autor, Titel, Auflage, Zyklus, GL, Bemerkung) "
-                 "VALUES (12, 'O''Brian', 'Titel %5', 2, 'IV', 255, '');"_s);
+        QCOMPARE(c.session.CurrentSql, u"INSERT INTO HEFTLIST (Nr, Autor, Titel, Auflage, Zyklus, GL, Bemerkung) "
+                                       "VALUES (12, 'O''Brian', 'Titel %5', 2, 'IV', 255, '');"_s);
         c.session.Entry.GL = false;
         BuildUpdateEntrySql(c.session);
-        QCOMPARE(c.session.CurrentSql,
-                 u"UPDATE HEFTLIST SET Nr=12, Autor='O''Brian', Titel='Titel %5', Zyklus='IV', "
-                 "Auflage=2, GL=0, Bemerkung='' WHERE Nr=12;"_s);
+        QCOMPARE(c.session.CurrentSql, u"UPDATE HEFTLIST SET Nr=12, Autor='O''Brian', Titel='Titel %5', Zyklus='IV', "
+                                       "Auflage=2, GL=0, Bemerkung='' WHERE Nr=12;"_s);
         c.session.Entry.GL = true;
         QCOMPARE(InsertEntry(c.session), 0);
         QCOMPARE(c.Value(u"SELECT Autor FROM HEFTLIST WHERE Nr=12;"_s).toString(), u"O'Brian"_s);
     }
 
-    void overwriteQuestion_data() {
+    void overwriteQuestion_data()
+    {
         QTest::addColumn<bool>("editMode");
         QTest::addColumn<int>("answer");
         QTest::addColumn<int>("result");
@@ -64,7 +67,8 @@ class TestSqlWriters : public QObject {
         QTest::newRow("renumber, no") << true << int(Answer::No) << 4711;
         QTest::newRow("renumber, yes") << true << int(Answer::Yes) << 3022;
     }
-    void overwriteQuestion() {
+    void overwriteQuestion()
+    {
         QFETCH(bool, editMode);
         QFETCH(int, answer);
         QFETCH(int, result);
@@ -93,13 +97,15 @@ class TestSqlWriters : public QObject {
         QCOMPARE(removedRows, agreed ? QList<int>{editMode ? 3 : 7} : QList<int>());
     }
 
-    void batchWindowsKeepQuiet_data() {
+    void batchWindowsKeepQuiet_data()
+    {
         QTest::addColumn<QString>("caption");
         QTest::addColumn<bool>("quiet");
         QTest::newRow("import") << u"Daten Import"_s << true;
         QTest::newRow("import with more") << u"Daten Import ..."_s << false;
     }
-    void batchWindowsKeepQuiet() {
+    void batchWindowsKeepQuiet()
+    {
         QFETCH(QString, caption);
         QFETCH(bool, quiet);
         TempCollection c;
@@ -122,17 +128,18 @@ class TestSqlWriters : public QObject {
         QCOMPARE(LogText(c).contains(u"[Fehler 3315]"_s), quiet);
     }
 
-    void errorsAreLoggedWithTheStatement() {
+    void errorsAreLoggedWithTheStatement()
+    {
         TempCollection c;
         c.session.CurrentSql = u"UPDATE HEFTLIST SET WHERE Nr=1;"_s;
         QCOMPARE(ExecuteSql(c.session), 3144);
-        QVERIFY(
-            LogText(c).contains(u"UPDATE HEFTLIST SET WHERE Nr=1;\r\n[Fehler 3144]\r\nSyntax error in UPDATE "
-                                "statement.\r\nUPDATE HEFTLIST SET WHERE Nr=1;\r\n"_s));
+        QVERIFY(LogText(c).contains(u"UPDATE HEFTLIST SET WHERE Nr=1;\r\n[Fehler 3144]\r\nSyntax error in UPDATE "
+                                    "statement.\r\nUPDATE HEFTLIST SET WHERE Nr=1;\r\n"_s));
         QVERIFY(c.prompter.asked.isEmpty());
     }
 
-    void nrRange() {
+    void nrRange()
+    {
         TempCollection c;
         c.Add({{4, u"A"_s, u"T"_s}, {40, u"A"_s, u"U"_s}, {17, u"A"_s, u"V"_s}});
         int lowest = 0, highest = 0;
@@ -143,12 +150,12 @@ class TestSqlWriters : public QObject {
         QCOMPARE(highest, 17);
     }
 
-    void upgradeAddsMissingTablesOnly() {
+    void upgradeAddsMissingTablesOnly()
+    {
         TempCollection c;
         c.Exec(u"DROP TABLE Status;"_s);
         UpgradeSchema(c.session);
-        QCOMPARE(c.Value(u"SELECT COUNT(*) FROM sqlite_master WHERE name IN ('Status', 'INS1', 'INS2');"_s)
-                     .toInt(),
+        QCOMPARE(c.Value(u"SELECT COUNT(*) FROM sqlite_master WHERE name IN ('Status', 'INS1', 'INS2');"_s).toInt(),
                  3);
         c.Add({{1, u"A"_s, u"T"_s}});
         AddDependents(c, 1);

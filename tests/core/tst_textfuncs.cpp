@@ -11,8 +11,9 @@ using namespace heft;
 class TestTextFuncs : public QObject {
     Q_OBJECT
 
-  private Q_SLOTS:
-    void val_data() {
+private Q_SLOTS:
+    void val_data()
+    {
         QTest::addColumn<QString>("text");
         QTest::addColumn<double>("expected");
         QTest::newRow("leading blanks, tab, line feed") << u" \t\n42"_s << 42.0;
@@ -24,12 +25,14 @@ class TestTextFuncs : public QObject {
         QTest::newRow("hex 16-bit wraps") << u"&HFFFF"_s << -1.0;
         QTest::newRow("octal") << u"&O17"_s << 15.0;
     }
-    void val() {
+    void val()
+    {
         QFETCH(QString, text);
         QTEST(Val(text), "expected");
     }
 
-    void isNumeric_data() {
+    void isNumeric_data()
+    {
         QTest::addColumn<QString>("text");
         QTest::addColumn<bool>("expected");
         QTest::newRow("empty") << QString() << false;
@@ -40,12 +43,14 @@ class TestTextFuncs : public QObject {
         QTest::newRow("blank inside") << u"1 2"_s << false;
         QTest::newRow("dangling exponent") << u"5E"_s << false;
     }
-    void isNumeric() {
+    void isNumeric()
+    {
         QFETCH(QString, text);
         QTEST(IsNumeric(text), "expected");
     }
 
-    void arithmetic_data() {
+    void arithmetic_data()
+    {
         QTest::addColumn<double>("a");
         QTest::addColumn<double>("b");
         QTest::addColumn<qint64>("quotient");
@@ -54,27 +59,31 @@ class TestTextFuncs : public QObject {
         QTest::newRow("half rounds to even") << 2.5 << 1.5 << qint64(1) << qint64(0);
         QTest::newRow("divisor 0") << 5.0 << 0.4 << qint64(0) << qint64(0);
     }
-    void arithmetic() {
+    void arithmetic()
+    {
         QFETCH(double, a);
         QFETCH(double, b);
         QTEST(IntDiv(a, b), "quotient");
         QTEST(Mod(a, b), "remainder");
     }
 
-    void romanToNumber_data() {
+    void romanToNumber_data()
+    {
         QTest::addColumn<QString>("text");
         QTest::addColumn<int>("expected");
         QTest::newRow("stops at a non-digit") << u"XIIabc"_s << 12;
         QTest::newRow("previous stays after subtracting") << u"IXC"_s << 107;
     }
-    void romanToNumber() {
+    void romanToNumber()
+    {
         QFETCH(QString, text);
         QTEST(RomanToNumber(text), "expected");
     }
 
     // Every cycle number the series could reach survives writing and reading;
     // the number given is used up on the way.
-    void numberToRoman() {
+    void numberToRoman()
+    {
         int year = 1990;
         QCOMPARE(NumberToRoman(year), u"MCMXC"_s);
         QCOMPARE(year, 0);
@@ -83,7 +92,8 @@ class TestTextFuncs : public QObject {
             QCOMPARE(RomanToNumber(NumberToRoman(int(n))), n);
     }
 
-    void digits_data() {
+    void digits_data()
+    {
         QTest::addColumn<QString>("text");
         QTest::addColumn<bool>("digit");
         QTest::addColumn<bool>("romanText");
@@ -94,7 +104,8 @@ class TestTextFuncs : public QObject {
         QTest::newRow("not roman") << u"A"_s << false << false << QString();
         QTest::newRow("no cycle") << u"- - -"_s << false << false << QString();
     }
-    void digits() {
+    void digits()
+    {
         QFETCH(QString, text);
         QTEST(IsRomanDigit(text), "digit");
         QTEST(IsRomanText(text), "romanText");

@@ -40,27 +40,28 @@ const Cycles ThreeCycles = {
     {u"III"_s, u"101"_s, u"150"_s, u"40"_s, u"90"_s, u"Kaiser"_s, u"Aufbruch"_s},
 };
 
-QString SqlText(const QString& value) {
+QString SqlText(const QString& value)
+{
     return value == u"NULL" ? value : u"'"_s + QuoteSql(value) + u"'"_s;
 }
 
 struct Fixture {
-    explicit Fixture(const Cycles& cycles = ThreeCycles, const QString& entryCycle = u"II"_s) {
-        collection.Add(
-            {{7, u"Ava Lind"_s, u"Morgensonne"_s, 1, entryCycle}, {8, u"Bo Kern"_s, u"Nachtflug"_s}});
+    explicit Fixture(const Cycles& cycles = ThreeCycles, const QString& entryCycle = u"II"_s)
+    {
+        collection.Add({{7, u"Ava Lind"_s, u"Morgensonne"_s, 1, entryCycle}, {8, u"Bo Kern"_s, u"Nachtflug"_s}});
         DbError error;
         session().CycleDb = CreateCycleFile(collection.dir.filePath(u"Zyklus.mdb"_s), &error);
         for (const QStringList& c : cycles)
-            QVERIFY(!session().CycleDb->Execute(
-                u"INSERT INTO ZyklusListe VALUES (%1, %2, %3, %4, %5, %6, %7);"_s.arg(
-                    SqlText(c[0]), c[1], c[2], c[3], c[4], SqlText(c[5]), SqlText(c[6]))));
+            QVERIFY(!session().CycleDb->Execute(u"INSERT INTO ZyklusListe VALUES (%1, %2, %3, %4, %5, %6, %7);"_s.arg(
+                SqlText(c[0]), c[1], c[2], c[3], c[4], SqlText(c[5]), SqlText(c[6]))));
         window.LoadList(session());
         window.List().FindAndShowRow(7);
         InstallCycleWindow(window);
     }
     Session& session() { return collection.session; }
     QString CycleValue(const QString& sql) { return session().CycleDb->SelectValue(sql).toString(); }
-    CycleWindow* Open() {
+    CycleWindow* Open()
+    {
         window.Command(u"mnu_zyklus"_s)->trigger();
         return OpenCycleWindow(window);
     }
@@ -70,19 +71,22 @@ struct Fixture {
     MainWindow window;
 };
 
-QStringList Line(const CycleGrid& grid, int index) {
+QStringList Line(const CycleGrid& grid, int index)
+{
     QStringList cells;
     for (int column = 0; column < grid.columnCount(); ++column)
         cells << grid.item(index, column)->text();
     return cells;
 }
 
-QLineEdit* Box(QWidget& dialog, const QString& name) {
+QLineEdit* Box(QWidget& dialog, const QString& name)
+{
     return dialog.findChild<QLineEdit*>(name);
 }
 
 // Runs an editor command; step works in the modal editor and closes it.
-void InEditor(QAction* command, const std::function<void(QDialog&)>& step) {
+void InEditor(QAction* command, const std::function<void(QDialog&)>& step)
+{
     ModalScript script(u"frm_editzyk"_s);
     script.Then(step);
     command->trigger();
@@ -90,7 +94,8 @@ void InEditor(QAction* command, const std::function<void(QDialog&)>& step) {
     QVERIFY(!script.leftOpen);
 }
 
-void Type(QDialog& dialog, const QString& name, const QString& text) {
+void Type(QDialog& dialog, const QString& name, const QString& text)
+{
     QLineEdit* box = Box(dialog, name);
     box->selectAll();
     box->del();
@@ -102,15 +107,17 @@ void Type(QDialog& dialog, const QString& name, const QString& text) {
 class TestCycleWindow : public QObject {
     Q_OBJECT
 
-  private Q_SLOTS:
-    void fill_data() {
+private Q_SLOTS:
+    void fill_data()
+    {
         QTest::addColumn<QString>("entryCycle");
         QTest::addColumn<int>("shown");
         QTest::newRow("cycle of the entry") << u"II"_s << 1;
         QTest::newRow("cycle not in the list") << u"XX"_s << 0;
     }
 
-    void fill() {
+    void fill()
+    {
         QFETCH(QString, entryCycle);
         Fixture f(ThreeCycles, entryCycle);
         CycleWindow* w = f.Open();
@@ -118,8 +125,8 @@ class TestCycleWindow : public QObject {
         QVERIFY(f.session().EditAccepted);
         const CycleGrid& grid = w->Grid();
         QCOMPARE(grid.CycleCount(), 3);
-        QCOMPARE(Line(grid, 0), (QStringList{u"1"_s, u"I"_s, u"1"_s, u"50"_s, u"-100"_s, u"20"_s,
-                                             u"Die Größe  "_s, u"Aufbruch"_s}));
+        QCOMPARE(Line(grid, 0),
+                 (QStringList{u"1"_s, u"I"_s, u"1"_s, u"50"_s, u"-100"_s, u"20"_s, u"Die Größe  "_s, u"Aufbruch"_s}));
         QCOMPARE(grid.item(1, 7)->text(), QString()); // NULL
         QTEST(grid.currentRow(), "shown");
         // The command again brings the same window forward.
@@ -129,7 +136,8 @@ class TestCycleWindow : public QObject {
         QVERIFY(!OpenCycleWindow(f.window));
     }
 
-    void newCycle() {
+    void newCycle()
+    {
         Fixture f(ThreeCycles.mid(0, 1));
         CycleWindow* w = f.Open();
         QVERIFY(!f.Action(*w, u"zmnu_delete"_s)->isEnabled());
@@ -139,8 +147,8 @@ class TestCycleWindow : public QObject {
             for (const QString& name : {u"txt_zyklus"_s, u"txt_vonnr"_s, u"txt_bisnr"_s, u"txt_vonjahr"_s,
                                         u"txt_bisjahr"_s, u"txt_bez"_s, u"txt_gz"_s})
                 shown << Box(dialog, name)->text();
-            QCOMPARE(shown, (QStringList{u"II"_s, u"51"_s, u"100"_s, u"20"_s, u"20"_s, u"Die Größe  "_s,
-                                         u"Aufbruch"_s}));
+            QCOMPARE(shown,
+                     (QStringList{u"II"_s, u"51"_s, u"100"_s, u"20"_s, u"20"_s, u"Die Größe  "_s, u"Aufbruch"_s}));
             // The number boxes take digits only, the year boxes a minus anywhere.
             Type(dialog, u"txt_vonnr"_s, u"6a-0"_s);
             Type(dialog, u"txt_vonjahr"_s, u"15-"_s);
@@ -164,9 +172,8 @@ class TestCycleWindow : public QObject {
             Type(dialog, u"txt_gz"_s, QString());
             QTest::keyClick(Box(dialog, u"txt_bisnr"_s), Qt::Key_Enter);
         });
-        QCOMPARE(f.CycleValue(
-                     u"SELECT Zyklus || '|' || NrVon || '|' || NrBis || '|' || ZeitVon || '|' || ZeitBis || "
-                     "'|' || Bezeichnung || '|' || Zyklusbereich FROM ZyklusListe WHERE NrVon=51;"_s),
+        QCOMPARE(f.CycleValue(u"SELECT Zyklus || '|' || NrVon || '|' || NrBis || '|' || ZeitVon || '|' || ZeitBis || "
+                              "'|' || Bezeichnung || '|' || Zyklusbereich FROM ZyklusListe WHERE NrVon=51;"_s),
                  u"II|51|99|-15|20|Ka'Rell|"_s);
         CycleGrid& grid = w->Grid();
         QCOMPARE(grid.currentRow(), 1);
@@ -182,10 +189,9 @@ class TestCycleWindow : public QObject {
         QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, cell);
         QTest::mouseDClick(grid.viewport(), Qt::LeftButton, {}, cell);
         QCOMPARE(change.opened, 1);
-        QCOMPARE(f.CycleValue(u"SELECT Zyklusbereich FROM ZyklusListe WHERE Zyklus='II';"_s),
-                 u"Der Kaiser's Zeit"_s);
-        QCOMPARE(Line(grid, 1), (QStringList{u"2"_s, u"II"_s, u"51"_s, u"99"_s, u"-15"_s, u"20"_s,
-                                             u"Ka'Rell"_s, u"Der Kaiser's Zeit"_s}));
+        QCOMPARE(f.CycleValue(u"SELECT Zyklusbereich FROM ZyklusListe WHERE Zyklus='II';"_s), u"Der Kaiser's Zeit"_s);
+        QCOMPARE(Line(grid, 1), (QStringList{u"2"_s, u"II"_s, u"51"_s, u"99"_s, u"-15"_s, u"20"_s, u"Ka'Rell"_s,
+                                             u"Der Kaiser's Zeit"_s}));
         // The right button takes the line and opens the popup menu.
         const QPoint first = grid.visualItemRect(grid.item(0, 3)).center();
         QContextMenuEvent click(QContextMenuEvent::Mouse, first, grid.viewport()->mapToGlobal(first));
@@ -198,21 +204,22 @@ class TestCycleWindow : public QObject {
         f.collection.prompter.answers = {Answer::No, Answer::Yes};
         for (int press = 0; press < 2; ++press)
             f.Action(*w, u"zmnu_delete"_s)->trigger();
-        QCOMPARE(f.collection.prompter.asked.value(1).text,
-                 u"Zykluseintrag #2 (II)\r'Ka'Rell'\rwirklich löschen?"_s);
+        QCOMPARE(f.collection.prompter.asked.value(1).text, u"Zykluseintrag #2 (II)\r'Ka'Rell'\rwirklich löschen?"_s);
         QCOMPARE(f.CycleValue(u"SELECT GROUP_CONCAT(Zyklus) FROM ZyklusListe;"_s), u"I"_s);
         QCOMPARE(grid.CycleCount(), 1);
         QVERIFY(!f.Action(*w, u"zmnu_delete"_s)->isEnabled());
     }
 
     // A cycle file that is not open or can't be read: a message, no window.
-    void loadFailures_data() {
+    void loadFailures_data()
+    {
         QTest::addColumn<bool>("fileOpen");
         QTest::addColumn<QString>("title");
         QTest::newRow("not open") << false << u"Probleme beim Öffnen der Zyklus-DB"_s;
         QTest::newRow("unreadable") << true << u"Probleme beim Lesen der Zyklus-DB"_s;
     }
-    void loadFailures() {
+    void loadFailures()
+    {
         QFETCH(bool, fileOpen);
         QFETCH(QString, title);
         Fixture f;
@@ -225,7 +232,8 @@ class TestCycleWindow : public QObject {
         QCOMPARE(f.collection.prompter.asked[0].title, title);
     }
 
-    void exportFile_data() {
+    void exportFile_data()
+    {
         QTest::addColumn<int>("cycles");
         QTest::addColumn<QByteArray>("bytes");
         QTest::addColumn<QString>("opening");
@@ -239,7 +247,8 @@ class TestCycleWindow : public QObject {
                                << u"Insgesamt 3 Einträge wurden in die Datei\r'"_s;
     }
 
-    void exportFile() {
+    void exportFile()
+    {
         QFETCH(int, cycles);
         QFETCH(QByteArray, bytes);
         QFETCH(QString, opening);
@@ -252,12 +261,13 @@ class TestCycleWindow : public QObject {
         QCOMPARE(file.readAll(), bytes);
         QCOMPARE(f.collection.prompter.asked.size(), 1);
         const Message& message = f.collection.prompter.asked[0];
-        QCOMPARE(message.text, opening + QDir::toNativeSeparators(path) +
-                                   u"'\rgesichert (%1 Bytes Dateilänge)."_s.arg(bytes.size()));
+        QCOMPARE(message.text,
+                 opening + QDir::toNativeSeparators(path) + u"'\rgesichert (%1 Bytes Dateilänge)."_s.arg(bytes.size()));
     }
 
     // The editor's rules without its window: the checks and their order.
-    void checks_data() {
+    void checks_data()
+    {
         QTest::addColumn<QStringList>("typed");
         QTest::addColumn<int>("refused"); // CycleBox
         QTest::addColumn<QStringList>("after");
@@ -269,8 +279,7 @@ class TestCycleWindow : public QObject {
         // Compared as texts: 900 lies behind 1000.
         QTest::newRow("900 to 1000") << QStringList{u"V"_s, u"900"_s, u"1000"_s, u""_s, u""_s, u"T"_s, u""_s}
                                      << int(CycleBox::NrVon)
-                                     << QStringList{u"V"_s, u"1000"_s, u"1000"_s, u""_s,
-                                                    u""_s,  u"T"_s,    u""_s};
+                                     << QStringList{u"V"_s, u"1000"_s, u"1000"_s, u""_s, u""_s, u"T"_s, u""_s};
         QTest::newRow("empty to") << QStringList{u"V"_s, u"5"_s, u""_s, u""_s, u""_s, u"T"_s, u""_s}
                                   << int(CycleBox::NrBis)
                                   << QStringList{u"V"_s, u"5"_s, u"0"_s, u""_s, u""_s, u"T"_s, u""_s};
@@ -282,7 +291,8 @@ class TestCycleWindow : public QObject {
             << QStringList{u"V"_s, u"5"_s, u"6"_s, u"0"_s, u""_s, u"T"_s, u""_s};
     }
 
-    void checks() {
+    void checks()
+    {
         QFETCH(QStringList, typed);
         CycleRow row{typed[0], typed[1], typed[2], typed[3], typed[4], typed[5], typed[6]};
         QTEST(int(CheckCycleInput(row)), "refused");
@@ -290,6 +300,7 @@ class TestCycleWindow : public QObject {
                            row.Zyklusbereich}),
               "after");
     }
+
 };
 
 HEFT_TEST(TestCycleWindow)

@@ -1,9 +1,9 @@
 #include "testmain.h"
 #include "testsupport.h"
 
-#include "details/erstdatum.h"
 #include "details/ui/detailopener.h"
 #include "details/ui/detailwindow.h"
+#include "details/erstdatum.h"
 #include "mainwin/ui/mainwindow.h"
 
 #include <QAction>
@@ -29,20 +29,21 @@ using namespace heft::test;
 namespace {
 
 // A question as one comparable text: title, text, icon, buttons.
-QString Described(const Message& message) {
+QString Described(const Message& message)
+{
     return u"%1|%2|%3|%4"_s.arg(message.title, message.text)
         .arg(static_cast<int>(message.icon))
         .arg(static_cast<int>(message.buttons));
 }
 
-const QString CloseQuestion =
-    Described({u"Sicherheits Rückfrage"_s,
-               u"Es wurden Änderungen an den\rDetaildaten vorgenommen.\r\rSchließen ohne zu speichern?"_s,
-               MessageIcon::Question, MessageButtons::OkCancel});
+const QString CloseQuestion = Described(
+    {u"Sicherheits Rückfrage"_s, u"Es wurden Änderungen an den\rDetaildaten vorgenommen.\r\rSchließen ohne zu speichern?"_s,
+     MessageIcon::Question, MessageButtons::OkCancel});
 
 // Five entries in the list; details only where a test adds them.
 struct Fixture {
-    Fixture() {
+    Fixture()
+    {
         QList<TestEntry> entries;
         for (int nr = 1; nr <= 5; ++nr)
             entries.append({nr, u"Hal Merrow"_s, u"Sternfeuer %1"_s.arg(nr)});
@@ -50,7 +51,8 @@ struct Fixture {
         window.LoadList(collection.session);
     }
     // The window on entry nr, shown as the user sees it.
-    std::unique_ptr<DetailWindow> Open(int nr, bool edit) {
+    std::unique_ptr<DetailWindow> Open(int nr, bool edit)
+    {
         window.List().FindAndShowRow(nr);
         auto details = std::make_unique<DetailWindow>(collection.session, window.List(), edit);
         DetailWindow* shown = details.get();
@@ -62,7 +64,8 @@ struct Fixture {
         return details;
     }
     QVariant Value(const QString& sql) { return collection.Value(sql); }
-    int Count(const QString& table, int nr) {
+    int Count(const QString& table, int nr)
+    {
         return Value(u"SELECT COUNT(*) FROM %1 WHERE Nr=%2;"_s.arg(table).arg(nr)).toInt();
     }
 
@@ -70,11 +73,10 @@ struct Fixture {
     MainWindow window;
 };
 
-QTreeWidget* Persons(QWidget& window) {
-    return Child<QTreeWidget>(window, u"liv_personen"_s);
-}
+QTreeWidget* Persons(QWidget& window) { return Child<QTreeWidget>(window, u"liv_personen"_s); }
 
-void DoubleClickPerson(QWidget& window, int row) {
+void DoubleClickPerson(QWidget& window, int row)
+{
     QTreeWidget* list = Persons(window);
     const QPoint at = list->visualItemRect(list->topLevelItem(row)).center();
     QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, at);
@@ -82,23 +84,23 @@ void DoubleClickPerson(QWidget& window, int row) {
 }
 
 // Types into a box as the user does, after giving it the focus.
-void TypeInto(QWidget& window, const QString& name, const QString& text) {
+void TypeInto(QWidget& window, const QString& name, const QString& text)
+{
     QWidget* box = Child<QWidget>(window, name);
     box->setFocus();
     QTest::keyClicks(box, text);
 }
 
-void Click(QWidget& window, const QString& name) {
-    QTest::mouseClick(Child<QWidget>(window, name), Qt::LeftButton);
-}
+void Click(QWidget& window, const QString& name) { QTest::mouseClick(Child<QWidget>(window, name), Qt::LeftButton); }
 
 } // namespace
 
 class TestDetailWindow : public QObject {
     Q_OBJECT
 
-  private Q_SLOTS:
-    void entryWithoutDetails_data() {
+private Q_SLOTS:
+    void entryWithoutDetails_data()
+    {
         QTest::addColumn<bool>("edit");
         QTest::addColumn<QString>("previous"); // Ersterscheinung of entry 2; null: no row
         QTest::addColumn<QDate>("expected");
@@ -107,7 +109,8 @@ class TestDetailWindow : public QObject {
         QTest::newRow("view, previous unknown") << false << u"31.12.1900"_s << QDate::currentDate();
         QTest::newRow("view, no previous") << false << QString() << QDate::currentDate();
     }
-    void entryWithoutDetails() {
+    void entryWithoutDetails()
+    {
         QFETCH(bool, edit);
         QFETCH(QString, previous);
         QFETCH(QDate, expected);
@@ -127,36 +130,34 @@ class TestDetailWindow : public QObject {
         QVERIFY(!Child<QPushButton>(*w, u"btn_ok"_s)->isEnabled());
     }
 
-    void textsSurviveSave_data() {
+    void textsSurviveSave_data()
+    {
         QTest::addColumn<QString>("control");
         QTest::addColumn<QString>("typed");
         QTest::addColumn<QString>("column"); // Table.Column
         QTest::addColumn<QString>("stored");
-        QTest::newRow("content pasted with line breaks")
-            << u"txt_inhalt"_s << u"Erste Zeile\nzweite Zeile\rdritte"_s << u"Details.Inhalt"_s
-            << u"Erste Zeile zweite Zeile dritte"_s;
-        QTest::newRow("person, taken with Enter")
-            << u"cmb_floatP"_s << u"D'Arcy Vell"_s << u"Details.Person3"_s << u"D'Arcy Vell"_s;
-        QTest::newRow("illustrator") << u"cmb_illu"_s << u"Ann Vo"_s << u"Gestaltung.IlluZeichner"_s
-                                     << u"Ann Vo"_s;
-        QTest::newRow("content pasted beyond its limit")
-            << u"txt_inhalt"_s << u"Anfang\n"_s + QString(260, u'y') << u"Details.Inhalt"_s
-            << u"Anfang "_s + QString(248, u'y');
+        QTest::newRow("content pasted with line breaks") << u"txt_inhalt"_s << u"Erste Zeile\nzweite Zeile\rdritte"_s
+                                                         << u"Details.Inhalt"_s << u"Erste Zeile zweite Zeile dritte"_s;
+        QTest::newRow("person, taken with Enter") << u"cmb_floatP"_s << u"D'Arcy Vell"_s << u"Details.Person3"_s
+                                                  << u"D'Arcy Vell"_s;
+        QTest::newRow("illustrator") << u"cmb_illu"_s << u"Ann Vo"_s << u"Gestaltung.IlluZeichner"_s << u"Ann Vo"_s;
+        QTest::newRow("content pasted beyond its limit") << u"txt_inhalt"_s << u"Anfang\n"_s + QString(260, u'y')
+                                                         << u"Details.Inhalt"_s << u"Anfang "_s + QString(248, u'y');
         QTest::newRow("person edited in place, trimmed and cut")
             << u"liv_personen"_s << u"  Bartholomew von Eichenhain-Lornberg"_s << u"Details.Person3"_s
             << u"Bartholomew von Eichenhain-Lornb"_s;
-        QTest::newRow("drawn object") << u"txt_objekt"_s << u"Kreuzer 'Stella'"_s
-                                      << u"Gestaltung.RiZeObjekt"_s << u"Kreuzer 'Stella'"_s;
+        QTest::newRow("drawn object") << u"txt_objekt"_s << u"Kreuzer 'Stella'"_s << u"Gestaltung.RiZeObjekt"_s
+                                      << u"Kreuzer 'Stella'"_s;
     }
-    void textsSurviveSave() {
+    void textsSurviveSave()
+    {
         QFETCH(QString, control);
         QFETCH(QString, typed);
         QFETCH(QString, column);
         QFETCH(QString, stored);
         Fixture f;
         // What the file held already must come back unchanged.
-        f.collection.Exec(
-            u"INSERT INTO Details (Nr, Ersterscheinung, Untertitel, Person1) VALUES (4, '01.03.2009', 'Erbe', 'Kapitän Lorn');"_s);
+        f.collection.Exec(u"INSERT INTO Details (Nr, Ersterscheinung, Untertitel, Person1) VALUES (4, '01.03.2009', 'Erbe', 'Kapitän Lorn');"_s);
         f.collection.Exec(u"INSERT INTO Gestaltung (Nr, TiBiZeichner, RZ) VALUES (4, 'Jo O''Kell', 0);"_s);
         const auto w = f.Open(4, true);
         if (control == u"cmb_floatP"_s) {
@@ -189,10 +190,8 @@ class TestDetailWindow : public QObject {
         QVERIFY(!save->isEnabled());
         const QStringList table = column.split(u'.');
         QCOMPARE(f.Value(u"SELECT %1 FROM %2 WHERE Nr=4;"_s.arg(table[1], table[0])).toString(), stored);
-        QCOMPARE(f.Value(u"SELECT RZ FROM Gestaltung WHERE Nr=4;"_s).toInt(),
-                 table[1].startsWith(u"RiZe"_s) ? -1 : 0);
-        QCOMPARE(f.Value(u"SELECT Ersterscheinung || Untertitel || Person1 || TiBiZeichner FROM Details JOIN "
-                         u"Gestaltung "
+        QCOMPARE(f.Value(u"SELECT RZ FROM Gestaltung WHERE Nr=4;"_s).toInt(), table[1].startsWith(u"RiZe"_s) ? -1 : 0);
+        QCOMPARE(f.Value(u"SELECT Ersterscheinung || Untertitel || Person1 || TiBiZeichner FROM Details JOIN Gestaltung "
                          "USING (Nr) WHERE Nr=4;"_s),
                  u"01.03.2009ErbeKapitän LornJo O'Kell"_s);
         QVERIFY(f.collection.prompter.asked.isEmpty());
@@ -200,17 +199,18 @@ class TestDetailWindow : public QObject {
 
     // A stored design with a cutaway drawing shows in both modes; each tab
     // shows its own sections, and the content box can take the whole frame.
-    void storedDesignShown_data() {
+    void storedDesignShown_data()
+    {
         QTest::addColumn<bool>("edit");
         QTest::newRow("edit") << true;
         QTest::newRow("view") << false;
     }
-    void storedDesignShown() {
+    void storedDesignShown()
+    {
         QFETCH(bool, edit);
         Fixture f;
-        f.collection.Exec(
-            u"INSERT INTO Gestaltung (Nr, TiBiZeichner, IlluZeichner, RZ, RiZeZeichner, RiZeObjekt) "
-            "VALUES (2, 'Jo Kell', 'Ann Vo', -1, 'Rudi Lenz', 'Kreuzer');"_s);
+        f.collection.Exec(u"INSERT INTO Gestaltung (Nr, TiBiZeichner, IlluZeichner, RZ, RiZeZeichner, RiZeObjekt) "
+                          "VALUES (2, 'Jo Kell', 'Ann Vo', -1, 'Rudi Lenz', 'Kreuzer');"_s);
         f.collection.Exec(u"INSERT INTO Details (Nr, Ersterscheinung) VALUES (2, '31.12.1900');"_s);
         const auto w = f.Open(2, edit);
         QVERIFY(!Child<QCheckBox>(*w, u"chk_valid"_s)->isChecked()); // the date stands for "unknown"
@@ -249,21 +249,21 @@ class TestDetailWindow : public QObject {
         QVERIFY(!w->isVisible());
     }
 
-    void closing_data() {
+    void closing_data()
+    {
         QTest::addColumn<bool>("edit");
         QTest::addColumn<bool>("change");
         QTest::addColumn<bool>("escape"); // else Enter on btn_nok
         QTest::addColumn<QList<Answer>>("answers");
         QTest::addColumn<bool>("asked");
         QTest::addColumn<bool>("closed");
-        QTest::newRow("changed, Esc and Cancel keep the window")
-            << true << true << true << QList{Answer::Cancel} << true << false;
+        QTest::newRow("changed, Esc and Cancel keep the window") << true << true << true << QList{Answer::Cancel} << true << false;
         QTest::newRow("changed, OK closes") << true << true << false << QList{Answer::Ok} << true << true;
-        QTest::newRow("unchanged closes at once")
-            << true << false << false << QList<Answer>() << false << true;
+        QTest::newRow("unchanged closes at once") << true << false << false << QList<Answer>() << false << true;
         QTest::newRow("view mode never asks") << false << true << true << QList<Answer>() << false << true;
     }
-    void closing() {
+    void closing()
+    {
         QFETCH(bool, edit);
         QFETCH(bool, change);
         QFETCH(bool, escape);
@@ -286,14 +286,14 @@ class TestDetailWindow : public QObject {
             questions << Described(message);
         QCOMPARE(questions, asked ? QStringList{CloseQuestion} : QStringList());
         if (edit)
-            QCOMPARE(Child<QPlainTextEdit>(*w, u"txt_utitel"_s)->toPlainText(),
-                     change ? u"Ungespeichert"_s : QString());
+            QCOMPARE(Child<QPlainTextEdit>(*w, u"txt_utitel"_s)->toPlainText(), change ? u"Ungespeichert"_s : QString());
         for (const QString& table : {u"Details"_s, u"Gestaltung"_s, u"Status"_s, u"Links"_s})
             QCOMPARE(f.Count(table, 3), 0);
     }
 
     // Esc in the box over the person list closes only the box.
-    void escapeInPersonBox() {
+    void escapeInPersonBox()
+    {
         Fixture f;
         const auto w = f.Open(3, true);
         DoubleClickPerson(*w, 1);
@@ -305,12 +305,14 @@ class TestDetailWindow : public QObject {
     }
 
     // Straight from the menu, or from the editor's "Detailinfo ..." button.
-    void openedFromMainWindow_data() {
+    void openedFromMainWindow_data()
+    {
         QTest::addColumn<QString>("command");
         QTest::newRow("Detail Bearbeiten") << u"mnu_detail_b"_s;
         QTest::newRow("editor's button") << u"mnu_edit"_s;
     }
-    void openedFromMainWindow() {
+    void openedFromMainWindow()
+    {
         QFETCH(QString, command);
         Fixture f;
         InstallDetailWindow(f.window);
@@ -330,6 +332,7 @@ class TestDetailWindow : public QObject {
         f.window.Command(command)->trigger();
         QVERIFY(details.opened == 1 && !details.leftOpen && !editor.leftOpen);
     }
+
 };
 
 HEFT_TEST(TestDetailWindow)

@@ -25,7 +25,8 @@ const QString OtherList = u"Sternfahrer Taschenbücher"_s;
 
 // Entries 1 to 20 in the main list, entry 5 current, with the given links.
 struct Fixture {
-    explicit Fixture(const QList<LinkRow>& links, bool edit = true) {
+    explicit Fixture(const QList<LinkRow>& links, bool edit = true)
+    {
         QList<TestEntry> entries;
         for (int nr = 1; nr <= 20; ++nr)
             entries.append({nr, u"Ada Wendrich"_s, u"Im Nebel von Karsa, Teil %1"_s.arg(nr)});
@@ -33,8 +34,7 @@ struct Fixture {
         LoadEntryList(collection, entryList, entryList.Heftliste);
         entryList.FindAndShowRow(5);
         for (int i = 0; i < links.size(); ++i)
-            collection.Exec(u"INSERT INTO Links VALUES (5, %1, %2, '%3', '%4');"_s.arg(i + 1)
-                                .arg(links[i].number)
+            collection.Exec(u"INSERT INTO Links VALUES (5, %1, %2, '%3', '%4');"_s.arg(i + 1).arg(links[i].number)
                                 .arg(links[i].text, links[i].series));
         panel = std::make_unique<LinksPanel>(collection.session, entryList);
         panel->SetEditMode(edit);
@@ -57,10 +57,10 @@ struct Fixture {
 class TestLinksPanel : public QObject {
     Q_OBJECT
 
-  private Q_SLOTS:
-    void gotoSelectsEntry() {
-        Fixture f({{12, u"Karsa erwacht"_s, OpenList},
-                   {3, u"gleiche Geschichte"_s, OtherList},
+private Q_SLOTS:
+    void gotoSelectsEntry()
+    {
+        Fixture f({{12, u"Karsa erwacht"_s, OpenList}, {3, u"gleiche Geschichte"_s, OtherList},
                    {99, u"noch nicht erschienen"_s, OpenList}});
         const EntryGrid& grid = f.entryList.Heftliste;
         QPushButton* jump = f.Button(u"btn_goto"_s);
@@ -104,8 +104,7 @@ class TestLinksPanel : public QObject {
         f.Button(u"btn_neu"_s)->click();
         QTest::mouseClick(f.list->header()->viewport(), Qt::LeftButton, {}, QPoint(5, 5));
         QCOMPARE(f.list->topLevelItem(1)->text(0), u"7"_s);
-        QTest::mouseClick(f.list->header()->viewport(), Qt::LeftButton, {},
-                          QPoint(f.list->columnWidth(0) + 5, 5));
+        QTest::mouseClick(f.list->header()->viewport(), Qt::LeftButton, {}, QPoint(f.list->columnWidth(0) + 5, 5));
         f.Button(u"btn_del"_s)->click();
         script.Then([](QDialog& dialog) { dialog.reject(); });
         f.Button(u"btn_edit"_s)->click();

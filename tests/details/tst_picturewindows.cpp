@@ -19,6 +19,7 @@
 #include <QTabWidget>
 #include <QTest>
 
+
 using namespace Qt::StringLiterals;
 using namespace heft;
 using namespace heft::test;
@@ -26,7 +27,8 @@ using namespace heft::test;
 namespace {
 
 struct Fixture {
-    explicit Fixture(bool editMode = true) {
+    explicit Fixture(bool editMode = true)
+    {
         collection.Add({{1, u"A"_s, u"Eins"_s}, {2, u"B"_s, u"Zwei"_s}});
         collection.session.Config.PictureRoot = collection.dir.path();
         window.LoadList(collection.session);
@@ -35,10 +37,9 @@ struct Fixture {
         details->show();
         details->findChild<QTabWidget*>(u"tab_detail"_s)->setCurrentIndex(1);
     }
-    QString Store(const QString& kind) const {
-        return collection.dir.filePath(kind + u"s/Valdorin (Heftromane)/"_s);
-    }
-    void Picture(const QString& path, QSize size) const {
+    QString Store(const QString& kind) const { return collection.dir.filePath(kind + u"s/Valdorin (Heftromane)/"_s); }
+    void Picture(const QString& path, QSize size) const
+    {
         QDir().mkpath(QFileInfo(path).absolutePath());
         QImage image(size, QImage::Format_RGB32);
         image.fill(Qt::darkCyan);
@@ -54,20 +55,21 @@ struct Fixture {
 class TestPictureWindows : public QObject {
     Q_OBJECT
 
-  private Q_SLOTS:
-    void dropOntoEachKind_data() {
+private Q_SLOTS:
+    void dropOntoEachKind_data()
+    {
         QTest::addColumn<QString>("target");
         QTest::addColumn<bool>("editMode");
         QTest::addColumn<QString>("stored");
         QTest::newRow("cover") << u"cmb_tibi"_s << true << u"tibis/Valdorin (Heftromane)/2tibi.jpg"_s;
         // The drawing's box is open once the entry is marked as having one.
         QTest::newRow("cutaway") << u"cmb_rize"_s << true << u"rizes/Valdorin (Heftromane)/2rize.jpg"_s;
-        QTest::newRow("illustration, page 12")
-            << u"cmb_illu"_s << true << u"illus/Valdorin (Heftromane)/2illu012.jpg"_s;
-        QTest::newRow("cover, view mode")
-            << u"txt_tibi"_s << false << u"tibis/Valdorin (Heftromane)/2tibi.jpg"_s;
+        QTest::newRow("illustration, page 12") << u"cmb_illu"_s << true
+                                               << u"illus/Valdorin (Heftromane)/2illu012.jpg"_s;
+        QTest::newRow("cover, view mode") << u"txt_tibi"_s << false << u"tibis/Valdorin (Heftromane)/2tibi.jpg"_s;
     }
-    void dropOntoEachKind() {
+    void dropOntoEachKind()
+    {
         QFETCH(QString, target);
         QFETCH(bool, editMode);
         QFETCH(QString, stored);
@@ -97,7 +99,8 @@ class TestPictureWindows : public QObject {
         QCOMPARE(fixture.collection.prompter.asked[0].title, u"Ziehen & Ablegen Info"_s);
     }
 
-    void viewerOpensAndCloses() {
+    void viewerOpensAndCloses()
+    {
         Fixture fixture;
         fixture.Picture(fixture.Store(u"tibi"_s) + u"2tibi.jpg"_s, {1440, 1000});
         auto* button = fixture.details->findChild<QPushButton*>(u"btn_tibi"_s);
@@ -117,7 +120,8 @@ class TestPictureWindows : public QObject {
         QCOMPARE(fixture.window.StatusPanelText(5), u"Fertig [keine Rißzeichnung gefunden]."_s);
     }
 
-    void illustrationPages() {
+    void illustrationPages()
+    {
         Fixture fixture;
         for (const QString& page : {u"003"_s, u"017"_s, u"042"_s})
             fixture.Picture(fixture.Store(u"illu"_s) + u"2illu"_s + page + u".jpg"_s, {300, 1080});

@@ -21,11 +21,11 @@ namespace {
 // the comma of older files); the condition used in other entries too. ENum
 // 25 belongs to no attribute.
 struct Fixture {
-    explicit Fixture(bool edit = true) {
-        for (const QString& row :
-             {u"7, 1, '2024-01-02 um 10:11:12'"_s, u"7, 2, '0000120'"_s, u"7, 3, 'gut'"_s,
-              u"7, 4, 'Kiosk am Markt'"_s, u"7, 5, '0003,50'"_s, u"7, 25, 'verirrt'"_s, u"8, 3, 'sehr gut'"_s,
-              u"9, 3, '  mäßig '"_s, u"10, 3, ''"_s, u"11, 3, 'gut'"_s})
+    explicit Fixture(bool edit = true)
+    {
+        for (const QString& row : {u"7, 1, '2024-01-02 um 10:11:12'"_s, u"7, 2, '0000120'"_s, u"7, 3, 'gut'"_s,
+                                   u"7, 4, 'Kiosk am Markt'"_s, u"7, 5, '0003,50'"_s, u"7, 25, 'verirrt'"_s,
+                                   u"8, 3, 'sehr gut'"_s, u"9, 3, '  mäßig '"_s, u"10, 3, ''"_s, u"11, 3, 'gut'"_s})
             collection.Exec(u"INSERT INTO Status (Nr, ENum, StatusWert) VALUES (%1);"_s.arg(row));
         auto* panel_ = new StatusPanel(collection.session, &window);
         (new QVBoxLayout(&window))->addWidget(panel_);
@@ -55,11 +55,12 @@ struct Fixture {
 class TestStatusPanel : public QObject {
     Q_OBJECT
 
-  private Q_SLOTS:
+private Q_SLOTS:
     // Keys that don't belong to the attribute never reach the box; Enter or
     // a click beside the box takes the value into the row in its shown form,
     // unless it is refused; Esc drops it and leaves the window open.
-    void typeAndEnter_data() {
+    void typeAndEnter_data()
+    {
         QTest::addColumn<int>("enumber");
         QTest::addColumn<QString>("typed");
         QTest::addColumn<QString>("shown");
@@ -67,20 +68,19 @@ class TestStatusPanel : public QObject {
         QTest::addColumn<QStringList>("offered"); // by the combo box; empty: a text box
         QTest::addColumn<QString>("finish");      // keys, or a click on the list beside the box
         const QStringList used{u"mäßig"_s, u"gut"_s, u"sehr gut"_s};
-        QTest::newRow("comma refused in the price")
-            << 5 << u"4,5"_s << u"45"_s << u"0000045"_s << QStringList() << u"Return"_s;
-        QTest::newRow("old lending date")
-            << 18 << u"1.2.1899"_s << u"1901-01-01"_s << u"1901-01-01"_s << QStringList() << u"Return"_s;
-        QTest::newRow("condition from the used ones")
-            << 3 << u"neu "_s << u"neu"_s << u"neu"_s << used << u"Return"_s;
-        QTest::newRow("condition taken by a click")
-            << 3 << u"neu"_s << u"neu"_s << u"neu"_s << used << u"click"_s;
-        QTest::newRow("lending date dropped")
-            << 18 << u"1.2.1999"_s << QString() << QString() << QStringList() << u"Escape"_s;
+        QTest::newRow("comma refused in the price") << 5 << u"4,5"_s << u"45"_s << u"0000045"_s << QStringList()
+                                                    << u"Return"_s;
+        QTest::newRow("old lending date") << 18 << u"1.2.1899"_s << u"1901-01-01"_s << u"1901-01-01"_s
+                                          << QStringList() << u"Return"_s;
+        QTest::newRow("condition from the used ones") << 3 << u"neu "_s << u"neu"_s << u"neu"_s << used << u"Return"_s;
+        QTest::newRow("condition taken by a click") << 3 << u"neu"_s << u"neu"_s << u"neu"_s << used << u"click"_s;
+        QTest::newRow("lending date dropped") << 18 << u"1.2.1999"_s << QString() << QString() << QStringList()
+                                              << u"Escape"_s;
         QTest::newRow("price that is no number stays open")
             << 5 << u"1.2.3"_s << u"3.5"_s << u"00003.5"_s << QStringList() << u"Return Escape"_s;
     }
-    void typeAndEnter() {
+    void typeAndEnter()
+    {
         QFETCH(int, enumber);
         QFETCH(QString, typed);
         QFETCH(QStringList, offered);
@@ -109,8 +109,7 @@ class TestStatusPanel : public QObject {
         for (const QString& step : finish.split(u' ')) {
             QVERIFY(f.panel->IsEditorOpen());
             if (step == u"click"_s)
-                QTest::mouseClick(f.list->viewport(), Qt::LeftButton, {},
-                                  f.list->visualItemRect(f.Row(1)).center());
+                QTest::mouseClick(f.list->viewport(), Qt::LeftButton, {}, f.list->visualItemRect(f.Row(1)).center());
             else
                 QTest::keyClick(typing, step == u"Return"_s ? Qt::Key_Return : Qt::Key_Escape);
         }
@@ -121,8 +120,10 @@ class TestStatusPanel : public QObject {
         QCOMPARE(changed.size(), finish.endsWith(u"Escape"_s) ? 0 : 1);
     }
 
+
     // The stamp is the program's own; in view mode nothing opens at all.
-    void noEditor() {
+    void noEditor()
+    {
         for (const bool edit : {true, false}) {
             Fixture f(edit);
             f.list->setCurrentItem(f.Row(edit ? 1 : 3));

@@ -6,8 +6,8 @@
 #include "testmain.h"
 
 #include "exchange/ui/exportdialog.h"
-#include "filter/filterrun.h"
 #include "filter/ui/filtermode.h"
+#include "filter/filterrun.h"
 #include "mainwin/ui/mainwindow.h"
 
 #include <QAction>
@@ -26,7 +26,8 @@ using namespace heft::test;
 namespace {
 
 struct ExportWindow {
-    ExportWindow() {
+    ExportWindow()
+    {
         AddExportEntries(collection);
         QDir(collection.session.DataFolder).mkpath(u"export"_s);
         window.LoadList(collection.session);
@@ -34,14 +35,16 @@ struct ExportWindow {
     }
     // Answers the save dialog with {export}/Liste plus the suffix it was
     // asked for, or with nothing.
-    ExportFileChooser Chooser(bool cancel = false) {
+    ExportFileChooser Chooser(bool cancel = false)
+    {
         return [this, cancel](QWidget*, const QString&, const QString& folder, const QString& filter,
                               const QString& suffix) {
             askedFilter = filter;
             return cancel ? QString() : QDir(folder).filePath(u"Liste."_s + suffix);
         };
     }
-    QString Path(const QString& suffix) const {
+    QString Path(const QString& suffix) const
+    {
         return QDir(collection.session.DataFolder).filePath(u"export/Liste"_s + suffix);
     }
 
@@ -50,7 +53,8 @@ struct ExportWindow {
     QString askedFilter; // of the last save dialog
 };
 
-void Check(QWidget& dialog, const QString& flags) {
+void Check(QWidget& dialog, const QString& flags)
+{
     const QList<std::pair<QChar, QString>> boxes = {{u'c', u"chk_csv"_s},     {u't', u"chk_text"_s},
                                                     {u'h', u"chk_html"_s},    {u'd', u"chk_details"_s},
                                                     {u'g', u"chk_gelesen"_s}, {u'z', u"chk_zyklus"_s}};
@@ -63,18 +67,19 @@ void Check(QWidget& dialog, const QString& flags) {
 class TestExportWindow : public QObject {
     Q_OBJECT
 
-  private Q_SLOTS:
+private Q_SLOTS:
 
-    void formats_data() {
+    void formats_data()
+    {
         QTest::addColumn<QString>("flags");
         QTest::addColumn<bool>("cancel");
         QTest::addColumn<QString>("suffix"); // of the save dialog, empty when none opens
         QTest::addColumn<QString>("result"); // first line of the result box
         QTest::addColumn<QStringList>("files");
         const QString exported = u"Es wurden 3/2 Einträge exportiert."_s;
-        QTest::newRow("csv before text")
-            << u"tcd"_s << false << u"dat"_s << exported
-            << QStringList{u"Liste.dat"_s, u"Liste.txt"_s, u"Liste_Details.dat"_s, u"Liste_Details.txt"_s};
+        QTest::newRow("csv before text") << u"tcd"_s << false << u"dat"_s << exported
+                                         << QStringList{u"Liste.dat"_s, u"Liste.txt"_s, u"Liste_Details.dat"_s,
+                                                        u"Liste_Details.txt"_s};
         QTest::newRow("html alone") << u"hd"_s << false << u"html"_s << exported
                                     << QStringList{u"Liste.html"_s, u"Liste_Details"_s};
         QTest::newRow("cancelled") << u"t"_s << true << u"txt"_s << u"Keine Export Datei ausgewählt."_s
@@ -82,7 +87,8 @@ class TestExportWindow : public QObject {
         QTest::newRow("no format") << u"dgz"_s << false << QString() << QString() << QStringList();
     }
 
-    void formats() {
+    void formats()
+    {
         QFETCH(QString, flags);
         QFETCH(bool, cancel);
         QFETCH(QString, suffix);
@@ -92,8 +98,7 @@ class TestExportWindow : public QObject {
         Check(dialog, flags);
         Child<QPushButton>(dialog, u"btn_choose"_s)->click();
 
-        QTEST(QDir(QFileInfo(w.Path(QString())).path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
-              "files");
+        QTEST(QDir(QFileInfo(w.Path(QString())).path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), "files");
         QCOMPARE(w.askedFilter, suffix.isEmpty() ? QString() : u"Heftarium-Exportdatei (*.%1)"_s.arg(suffix));
         QTEST(Child<QPlainTextEdit>(dialog, u"txt_result"_s)->toPlainText().section(u'\n', 0, 0), "result");
         QCOMPARE(w.collection.prompter.asked.size(), suffix.isEmpty() ? 1 : 0);
@@ -106,11 +111,12 @@ class TestExportWindow : public QObject {
 
     // Opened by the menu command, modal, on the filter list when a filter
     // is in force; Esc closes it only when no export runs.
-    void filterListFromMenu() {
+    void filterListFromMenu()
+    {
         ExportWindow w;
         EntryList& list = w.window.List();
-        QVERIFY(RunFilterStatement(w.collection.session, list,
-                                   u"SELECT * FROM HEFTLIST WHERE Nr>1 ORDER BY Nr;"_s) == 2);
+        QVERIFY(RunFilterStatement(w.collection.session, list, u"SELECT * FROM HEFTLIST WHERE Nr>1 ORDER BY Nr;"_s) ==
+                2);
         list.ShowFilterGrid(true);
         FilterStateOf(w.window)->FilterText = u"Nr größer als 1 "_s;
         InstallExportWindow(w.window, w.Chooser());

@@ -23,7 +23,8 @@ using namespace heft::test;
 namespace {
 
 struct WindowFixture {
-    WindowFixture() {
+    WindowFixture()
+    {
         QDir(f.collection.session.DataFolder).mkpath(u"import"_s);
         window.LoadList(f.collection.session);
         dialog = std::make_unique<ImportWindow>(window);
@@ -40,12 +41,12 @@ struct WindowFixture {
     QString chosen;
 };
 
-QStringList ListLines(int from, int count) {
+QStringList ListLines(int from, int count)
+{
     QStringList lines;
     for (int nr = from; nr < from + count; ++nr)
-        lines << Fields({QString::number(nr), u"Autorin %1"_s.arg(nr),
-                         u"Titel Nummer %1 – Übergröße"_s.arg(nr), u"1"_s, u"xii"_s, u"Ja"_s,
-                         u"Bemerkung mit €"_s});
+        lines << Fields({QString::number(nr), u"Autorin %1"_s.arg(nr), u"Titel Nummer %1 – Übergröße"_s.arg(nr),
+                         u"1"_s, u"xii"_s, u"Ja"_s, u"Bemerkung mit €"_s});
     return lines;
 }
 
@@ -54,10 +55,11 @@ QStringList ListLines(int from, int count) {
 class TestImportWindow : public QObject {
     Q_OBJECT
 
-  private Q_SLOTS:
+private Q_SLOTS:
     // A list file of more lines than one batch holds, with two refused
     // lines, both reports showing.
-    void importsAndReports() {
+    void importsAndReports()
+    {
         WindowFixture w;
         QStringList lines = ListLines(3, 120);
         lines.insert(2, u"\"20\";\"Abgeschnitten"_s);
@@ -67,15 +69,15 @@ class TestImportWindow : public QObject {
 
         QCOMPARE(w.dialog->ImportFolder(), w.f.collection.dir.filePath(u"neu"_s));
         QCOMPARE(w.Child<QGroupBox>(u"frm_bericht"_s)->title(), u"Bericht über Valdorin Heftromane Import"_s);
-        QVERIFY(
-            w.Text(u"txt_bericht"_s).startsWith(u"Es wurden 120 Datensätze in die Datenbank importiert."_s));
+        QVERIFY(w.Text(u"txt_bericht"_s).startsWith(u"Es wurden 120 Datensätze in die Datenbank importiert."_s));
         QVERIFY(w.Text(u"txt_fehler"_s).startsWith(u"2 Datensätze konnten nicht importiert werden."_s));
         QCOMPARE(w.window.List().Heftliste.Rows() - 1, 122);
         QVERIFY(w.window.findChild<QWidget*>(u"fg_heftliste"_s)->isEnabled());
         QCOMPARE(w.window.StatusPanelText(5), u"Fertig und Bereit."_s);
     }
 
-    void escape() {
+    void escape()
+    {
         WindowFixture w;
         QTest::mouseClick(w.Child<QPushButton>(u"btn_choose"_s), Qt::LeftButton);
         QCOMPARE(w.Text(u"txt_bericht"_s), u"Keine Import Datei ausgewählt."_s);
@@ -83,8 +85,7 @@ class TestImportWindow : public QObject {
         w.chosen = w.f.Write(u"liste.dat"_s, u"[Valdorin Heftromane]"_s, ListLines(3, 5));
         // The Esc waits in the queue until the import lets events run after
         // its first line.
-        QCoreApplication::postEvent(w.dialog.get(),
-                                    new QKeyEvent(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier));
+        QCoreApplication::postEvent(w.dialog.get(), new QKeyEvent(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier));
         QTest::mouseClick(w.Child<QPushButton>(u"btn_choose"_s), Qt::LeftButton);
         QVERIFY(w.dialog->isVisible());
         QVERIFY(w.Text(u"txt_bericht"_s).startsWith(u"Es wurde 1 Datensatz in die Datenbank importiert."_s));

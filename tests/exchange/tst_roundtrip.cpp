@@ -101,6 +101,7 @@ class TestRoundTrip : public QObject {
         carrier.Import(carrier.Export(), ImportMode::AllColumns);
         carrier.CompareAll();
     }
+
 };
 
 HEFT_TEST(TestRoundTrip)

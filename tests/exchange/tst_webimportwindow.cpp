@@ -22,8 +22,9 @@ using namespace heft::test;
 class TestWebImportWindow : public QObject {
     Q_OBJECT
 
-  private Q_SLOTS:
-    void rangeBoxes() {
+private Q_SLOTS:
+    void rangeBoxes()
+    {
         // The end of the decade after the last entry, cut by Val at the decimal comma.
         QCOMPARE(InitialWebRange(2409).start + u'-' + InitialWebRange(2409).end, u"2410-2419"_s);
         WebImportWindow dialog(nullptr, 2400);
@@ -38,7 +39,8 @@ class TestWebImportWindow : public QObject {
         QCOMPARE(start->text(), u"1800"_s);
     }
 
-    void webUpdate() {
+    void webUpdate()
+    {
         ImportFixture f;
         WikiFixtureServer server;
         server.ServeSampleSite();
@@ -63,13 +65,11 @@ class TestWebImportWindow : public QObject {
         };
         answerRange(Qt::Key_Escape);
         button->click();
-        QCOMPARE(dialog.findChild<QPlainTextEdit*>(u"txt_bericht"_s)->toPlainText(),
-                 u"Kein Web-Import Bereich ausgewählt."_s);
+        QCOMPARE(dialog.findChild<QPlainTextEdit*>(u"txt_bericht"_s)->toPlainText(), u"Kein Web-Import Bereich ausgewählt."_s);
 
         answerRange(Qt::Key_Enter);
         button->click();
-        QCOMPARE(dialog.findChild<QPlainTextEdit*>(u"txt_fehler"_s)->toPlainText(),
-                 u"Probleme beim Netz-Import für #2404 (URL öffnen)!"_s);
+        QCOMPARE(dialog.findChild<QPlainTextEdit*>(u"txt_fehler"_s)->toPlainText(), u"Probleme beim Netz-Import für #2404 (URL öffnen)!"_s);
         QCOMPARE(window.StatusPanelText(5), u"Fertig mit Fehlern."_s);
     }
 };

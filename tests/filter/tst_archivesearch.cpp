@@ -24,7 +24,8 @@ using namespace heft::test;
 namespace {
 
 // Sections of the one page of all books on the first CD.
-QByteArray Book(int nr, const QByteArray& text) {
+QByteArray Book(int nr, const QByteArray& text)
+{
     return ArchivePageMarker() + QByteArray::number(nr) + "</FONT>" + text;
 }
 
@@ -36,8 +37,9 @@ const ArchiveSearchHooks Quiet{[] { return QList<Volume>(); }, [](int) {}, [](in
 class TestArchiveSearch : public QObject {
     Q_OBJECT
 
-  private Q_SLOTS:
-    void scan_data() {
+private Q_SLOTS:
+    void scan_data()
+    {
         QTest::addColumn<QString>("list");
         QTest::addColumn<int>("nr");
         QTest::addColumn<QString>("word2");
@@ -55,14 +57,14 @@ class TestArchiveSearch : public QObject {
         QTest::newRow("next book's words don't count") << u"Taschenbücher"_s << 2 << QString() << 0 << 0;
         QTest::newRow("last book has no end") << u"Taschenbücher"_s << 3 << QString() << 0 << 0;
     }
-    void scan() {
+    void scan()
+    {
         QFETCH(QString, list);
         QFETCH(int, nr);
         QFETCH(QString, word2);
         QFETCH(int, join);
         QTemporaryDir root;
-        WriteFile(root.filePath(u"Archiv/HEFTE/HEFT0005.HTM"_s),
-                  "<P>Admiral Veyl auf Gorrodor, Kr\xE4he</P>");
+        WriteFile(root.filePath(u"Archiv/HEFTE/HEFT0005.HTM"_s), "<P>Admiral Veyl auf Gorrodor, Kr\xE4he</P>");
         WriteFile(root.filePath(u"Archiv/SEITEN/BUECHER/TBs.htm"_s),
                   Book(1, "Veyl im Nebel ") + Book(2, "ohne ihn ") + Book(3, "wieder Veyl"));
         Configuration config;
@@ -75,29 +77,31 @@ class TestArchiveSearch : public QObject {
         QTEST(scanner.ScanArchivePage(*ArchivePage(edition, list, nr), nr), "result");
     }
 
-    void search_data() {
+    void search_data()
+    {
         QTest::addColumn<int>("mode");
         QTest::addColumn<QString>("pages"); // "h" a hit, "-" no hit, "x" no page
         QTest::addColumn<int>("returned");
-        QTest::addColumn<QString>("kept"); // numbers left in the list
+        QTest::addColumn<QString>("kept");  // numbers left in the list
         QTest::addColumn<QString>("marked");
         QTest::addColumn<QString>("textEnd");
         QTest::addColumn<QString>("note");
         const int farbe = static_cast<int>(ArchiveMode::Farbe);
         const int filter = static_cast<int>(ArchiveMode::Filter);
-        QTest::newRow("filter 3 of 10")
-            << filter << u"h--h---h--"_s << 10 << u"1 4 8"_s << QString()
-            << u"  (7 von 10 Einträgen gefiltert)"_s << u"(Archivfilter:'Veyl' UND 'Gorrodor')"_s;
-        QTest::newRow("filter drops every row")
-            << filter << u"---"_s << 0 << u"1 2 3"_s << QString() << QString() << QString();
+        QTest::newRow("filter 3 of 10") << filter << u"h--h---h--"_s << 10 << u"1 4 8"_s << QString()
+                                        << u"  (7 von 10 Einträgen gefiltert)"_s
+                                        << u"(Archivfilter:'Veyl' UND 'Gorrodor')"_s;
+        QTest::newRow("filter drops every row") << filter << u"---"_s << 0 << u"1 2 3"_s << QString() << QString()
+                                                << QString();
         QTest::newRow("colour, no hit") << farbe << u"---"_s << 3 << u"1 2 3"_s << QString()
                                         << u"  (Kein Eintrag markiert)"_s << QString();
-        QTest::newRow("colour, one hit")
-            << farbe << u"-h-"_s << 3 << u"1 2 3"_s << u"2"_s << u"  (1 Eintrag markiert)"_s << QString();
-        QTest::newRow("page missing asks and stops")
-            << farbe << u"hx"_s << 0 << u"1 2"_s << u"1"_s << QString() << QString();
+        QTest::newRow("colour, one hit") << farbe << u"-h-"_s << 3 << u"1 2 3"_s << u"2"_s
+                                         << u"  (1 Eintrag markiert)"_s << QString();
+        QTest::newRow("page missing asks and stops") << farbe << u"hx"_s << 0 << u"1 2"_s << u"1"_s << QString()
+                                                     << QString();
     }
-    void search() {
+    void search()
+    {
         QFETCH(int, mode);
         QFETCH(QString, pages);
         QFETCH(QString, textEnd);
@@ -116,8 +120,7 @@ class TestArchiveSearch : public QObject {
         list.ActiveGrid = &list.Filter;
         list.Filter.Model().Reset(rows);
         ArchiveFilterTexts texts;
-        const ArchiveQuery query{static_cast<ArchiveMode>(mode), u" Veyl "_s, u"Gorrodor"_s,
-                                 ArchiveJoin::Und};
+        const ArchiveQuery query{static_cast<ArchiveMode>(mode), u" Veyl "_s, u"Gorrodor"_s, ArchiveJoin::Und};
         QTEST(SearchArchive(collection.session, list, query, Quiet, texts), "returned");
         QStringList left, hits;
         const EntryGridModel& model = list.Filter.Model();
@@ -133,14 +136,14 @@ class TestArchiveSearch : public QObject {
             QVERIFY(texts.text.isEmpty());
             return;
         }
-        QVERIFY2(
-            texts.text.startsWith(u"\n\nStichwortsuche im Valdorin Archiv nach:\n'Veyl' UND 'Gorrodor'"_s),
-            qPrintable(texts.text));
+        QVERIFY2(texts.text.startsWith(u"\n\nStichwortsuche im Valdorin Archiv nach:\n'Veyl' UND 'Gorrodor'"_s),
+                 qPrintable(texts.text));
         QVERIFY2(texts.text.endsWith(textEnd), qPrintable(texts.text));
         QCOMPARE(texts.note, note);
     }
 
-    void modes_data() {
+    void modes_data()
+    {
         QTest::addColumn<QString>("mode");
         QTest::addColumn<int>("rows");
         QTest::addColumn<QString>("textEnd");
@@ -149,13 +152,13 @@ class TestArchiveSearch : public QObject {
         QTest::newRow("Filter") << u"Filter"_s << 2 << u"(2 von 4 Einträgen gefiltert)"_s
                                 << u"(Archivfilter:'Veyl')"_s;
     }
-    void modes() {
+    void modes()
+    {
         QFETCH(QString, mode);
         QFETCH(QString, textEnd);
         TempCollection collection;
         collection.session.Config.ArchiveRoot = collection.dir.path();
-        collection.Add(
-            {{1, u"A"_s, u"Eins"_s}, {2, u"B"_s, u"Zwei"_s}, {3, u"C"_s, u"Drei"_s}, {4, u"D"_s, u"Vier"_s}});
+        collection.Add({{1, u"A"_s, u"Eins"_s}, {2, u"B"_s, u"Zwei"_s}, {3, u"C"_s, u"Drei"_s}, {4, u"D"_s, u"Vier"_s}});
         for (int nr = 1; nr <= 4; ++nr)
             WriteFile(collection.dir.filePath(u"archiv/hefte/heft000%1.htm"_s.arg(nr)),
                       nr % 2 == 0 ? "Admiral Veyl" : "Admiral VEYL");

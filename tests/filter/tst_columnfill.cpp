@@ -6,9 +6,9 @@
 #include "testmain.h"
 
 #include "filter/columnfill.h"
-#include "filter/filterrun.h"
 #include "filter/ui/columnfilldialog.h"
 #include "filter/ui/filtermode.h"
+#include "filter/filterrun.h"
 #include "mainwin/ui/mainwindow.h"
 
 #include <QAction>
@@ -31,13 +31,14 @@ const QString Finished = u"Fertig und Bereit [Filter ist AKTIV]."_s;
 // the odd numbers, which Ada Quell wrote. Every entry starts with values
 // that no fill below writes.
 struct FillWindow {
-    explicit FillWindow(int count = 8) {
-        const QStringList titles{u"Nebelhafen"_s,   u"Glutwüste"_s,     u"Aschefeld"_s, u"Sternenriff"_s,
+    explicit FillWindow(int count = 8)
+    {
+        const QStringList titles{u"Nebelhafen"_s, u"Glutwüste"_s, u"Aschefeld"_s, u"Sternenriff"_s,
                                  u"Kaltes Licht"_s, u"Bernsteinmond"_s, u"Eisenwald"_s, u"Dunkle Flut"_s};
         QList<TestEntry> entries;
         for (int nr = 1; nr <= count; ++nr)
-            entries << TestEntry(nr, nr % 2 ? u"Ada Quell"_s : u"Bert Lohmann"_s, titles[(nr - 1) % 8], 1,
-                                 u"II"_s, false, u"alt"_s);
+            entries << TestEntry(nr, nr % 2 ? u"Ada Quell"_s : u"Bert Lohmann"_s, titles[(nr - 1) % 8], 1, u"II"_s,
+                                 false, u"alt"_s);
         collection.Add(entries);
         collection.session.ActiveCaption = [] {
             const QWidget* modal = QApplication::activeModalWidget();
@@ -48,7 +49,8 @@ struct FillWindow {
     }
     EntryList& List() { return window.List(); }
     // What the filter window does before and after its run.
-    void EnterFilter() {
+    void EnterFilter()
+    {
         EntryList& list = List();
         list.SavedSortColumn = list.SortColumn;
         list.SavedSortDescending = list.SortDescending;
@@ -57,7 +59,8 @@ struct FillWindow {
                                    u"SELECT * FROM HEFTLIST WHERE Autor='Ada Quell' ORDER BY Nr;"_s) > 0);
         list.ShowFilterGrid(true);
     }
-    int Stamps(const QString& where) {
+    int Stamps(const QString& where)
+    {
         return collection.Value(u"SELECT COUNT(*) FROM Status WHERE ENum=1 AND "_s + where).toInt();
     }
 
@@ -67,7 +70,8 @@ struct FillWindow {
 
 // Chooses the target and puts the value into whichever input it shows;
 // into txt_1 it is typed, through the key filter.
-void SetValue(QWidget& dialog, const QString& label, const QString& value) {
+void SetValue(QWidget& dialog, const QString& label, const QString& value)
+{
     auto* choose = Child<QComboBox>(dialog, u"cmb_choose"_s);
     choose->setCurrentIndex(choose->findText(label));
     if (auto* text = Child<QLineEdit>(dialog, u"txt_1"_s); text->isVisibleTo(&dialog))
@@ -85,25 +89,25 @@ void SetValue(QWidget& dialog, const QString& label, const QString& value) {
 class TestColumnFill : public QObject {
     Q_OBJECT
 
-  private Q_SLOTS:
-    void gridTargets_data() {
+private Q_SLOTS:
+    void gridTargets_data()
+    {
         QTest::addColumn<QString>("label");
         QTest::addColumn<QString>("value");
         QTest::addColumn<QString>("cell");
         QTest::addColumn<QString>("column");
         QTest::addColumn<QString>("stored");
         QTest::newRow("Auflage -3-") << u"Auflage"_s << u"-3-"_s << u"3"_s << u"Auflage"_s << u"3"_s;
-        QTest::newRow("Zyklus from a number")
-            << u"Zyklus"_s << u"12"_s << u"XII"_s << u"Zyklus"_s << u"XII"_s;
-        QTest::newRow("Zyklus 0, refused once")
-            << u"Zyklus"_s << u"0"_s << u"- - -"_s << u"Zyklus"_s << u"- - -"_s;
-        QTest::newRow("Bemerkung, quoted") << u"Bemerkung"_s << u"Kim's Fund %1"_s << u"Kim's Fund %1"_s
-                                           << u"Bemerkung"_s << u"Kim's Fund %1"_s;
+        QTest::newRow("Zyklus from a number") << u"Zyklus"_s << u"12"_s << u"XII"_s << u"Zyklus"_s << u"XII"_s;
+        QTest::newRow("Zyklus 0, refused once") << u"Zyklus"_s << u"0"_s << u"- - -"_s << u"Zyklus"_s << u"- - -"_s;
+        QTest::newRow("Bemerkung, quoted")
+            << u"Bemerkung"_s << u"Kim's Fund %1"_s << u"Kim's Fund %1"_s << u"Bemerkung"_s << u"Kim's Fund %1"_s;
     }
 
     // Both lists sorted otherwise: the filter list by title, the full list
     // by author. The fill must reach the right rows of both.
-    void gridTargets() {
+    void gridTargets()
+    {
         QFETCH(QString, label);
         QFETCH(QString, value);
         QFETCH(QString, cell);
@@ -122,8 +126,7 @@ class TestColumnFill : public QObject {
         // Enter in the input goes on to btn_ok rather than filling; Enter
         // there fills.
         auto* ok = Child<QPushButton>(dialog, u"btn_ok"_s);
-        QTest::keyClick(Child<QWidget>(dialog, label == u"Auflage" ? u"cmb_aufl"_s : u"txt_1"_s),
-                        Qt::Key_Return);
+        QTest::keyClick(Child<QWidget>(dialog, label == u"Auflage" ? u"cmb_aufl"_s : u"txt_1"_s), Qt::Key_Return);
         QCOMPARE(dialog.focusWidget(), ok);
         QTest::keyClick(ok, Qt::Key_Return);
         if (value == u"0"_s) {
@@ -152,7 +155,8 @@ class TestColumnFill : public QObject {
         QCOMPARE(f.Stamps(u"Nr IN (2, 4, 6, 8);"_s), 0);
     }
 
-    void statusTargets_data() {
+    void statusTargets_data()
+    {
         QTest::addColumn<QString>("label");
         QTest::addColumn<QString>("typed");
         QTest::addColumn<QString>("shown"); // txt_1 after the fill
@@ -161,22 +165,23 @@ class TestColumnFill : public QObject {
         QTest::addColumn<QString>("before"); // what the entries outside the filter keep
         const QString price = u"SELECT StatusWert FROM Status WHERE ENum=5 AND Nr=%1;"_s;
         QTest::newRow("price") << u"Preis"_s << u"2.5"_s << u"2.5"_s << price << u"00002.5"_s << u"0000010"_s;
-        QTest::newRow("empty box empties")
-            << u"Preis"_s << QString() << QString() << price << QString() << u"0000010"_s;
-        QTest::newRow("text trimmed")
-            << u"Lagerort"_s << u" Regal %1 "_s << QString()
-            << u"SELECT StatusWert FROM Status WHERE ENum=7 AND Nr=%1;"_s << u"Regal %1"_s << QString();
+        QTest::newRow("empty box empties") << u"Preis"_s << QString() << QString() << price << QString()
+                                           << u"0000010"_s;
+        QTest::newRow("text trimmed") << u"Lagerort"_s << u" Regal %1 "_s << QString()
+                                      << u"SELECT StatusWert FROM Status WHERE ENum=7 AND Nr=%1;"_s << u"Regal %1"_s
+                                      << QString();
         // The value is not quoted: the insert fails after the delete, and
         // the stamps are written all the same.
-        QTest::newRow("apostrophe fails quietly")
-            << u"Genre"_s << u"Kim's Saga"_s << QString()
-            << u"SELECT StatusWert FROM Status WHERE ENum=13 AND Nr=%1;"_s << QString() << u"alt"_s;
+        QTest::newRow("apostrophe fails quietly") << u"Genre"_s << u"Kim's Saga"_s << QString()
+                                                  << u"SELECT StatusWert FROM Status WHERE ENum=13 AND Nr=%1;"_s
+                                                  << QString() << u"alt"_s;
         QTest::newRow("Gestaltung, insert or update")
             << u"TiBiZeichner"_s << u"Ina Roth"_s << QString()
             << u"SELECT TiBiZeichner FROM Gestaltung WHERE Nr=%1;"_s << u"Ina Roth"_s << QString();
     }
 
-    void statusTargets() {
+    void statusTargets()
+    {
         QFETCH(QString, label);
         QFETCH(QString, typed);
         QFETCH(QString, query);
@@ -206,7 +211,8 @@ class TestColumnFill : public QObject {
     // Opened by "insert" in the filter list. Esc during the fill stops it
     // after the row in work, the window stays open and ends the run as
     // usual; a second Esc closes it.
-    void escapeStopsFill() {
+    void escapeStopsFill()
+    {
         FillWindow f(60);
         f.EnterFilter();
         bool opened = false, openAfterEsc = false, closedBySecondEsc = false, progressHidden = false;

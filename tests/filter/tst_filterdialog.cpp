@@ -27,7 +27,8 @@ using namespace heft::test;
 namespace {
 
 struct OpenDialog {
-    explicit OpenDialog(const QString& series = u"Valdorin"_s) : collection(series) {
+    explicit OpenDialog(const QString& series = u"Valdorin"_s) : collection(series)
+    {
         collection.Add({{1, u"Ada Quell"_s, u"Der Sonnenwächter"_s, 1, u"I"_s},
                         {2, u"Bert Lohmann"_s, u"Nacht über Kelvar"_s, 2, u"I"_s},
                         {3, u"Ada Quell"_s, u"Die gläserne Stadt"_s},
@@ -44,7 +45,8 @@ struct OpenDialog {
 
     // User steps: "0:field=Autor" picks a field in row 0, "1:ver=ÄHNLICH",
     // "0:logic=UND" pick from the other lists, "0:type=12" types.
-    void Apply(const QStringList& steps) {
+    void Apply(const QStringList& steps)
+    {
         for (const QString& step : steps) {
             const QString row = step.left(1);
             const QString what = step.mid(2).section(u'=', 0, 0);
@@ -68,7 +70,8 @@ struct OpenDialog {
 // The window with its filter command, and import switched on as the
 // program has it.
 struct FilterWindow {
-    FilterWindow() {
+    FilterWindow()
+    {
         collection.Add({{1, u"Ada Quell"_s, u"Der Sonnenwächter"_s},
                         {2, u"Bert Lohmann"_s, u"Nacht über Kelvar"_s},
                         {3, u"Ada Quell"_s, u"Die gläserne Stadt"_s},
@@ -83,7 +86,8 @@ struct FilterWindow {
     EntryList& List() { return window.List(); }
     QAction* Command(const QString& name) { return window.Command(name); }
     // The filter "Autor IST Ada Quell" through the command of that name.
-    void RunFilter(const QString& command = u"filter"_s) {
+    void RunFilter(const QString& command = u"filter"_s)
+    {
         ModalScript run(u"frm_filter"_s);
         run.Then([](QDialog& dialog) {
             auto* field = dialog.findChild<QComboBox*>(u"cmb_choose0"_s);
@@ -99,7 +103,8 @@ struct FilterWindow {
     MainWindow window;
 };
 
-void CheckCommands(FilterWindow& f, bool filterOn) {
+void CheckCommands(FilterWindow& f, bool filterOn)
+{
     QCOMPARE(f.Command(u"filter"_s)->isChecked(), filterOn);
     QCOMPARE(f.Command(u"mnu_filter"_s)->isChecked(), filterOn);
     QCOMPARE(f.Command(u"mnu_filter"_s)->text(), filterOn ? u"&Filter"_s : u"&Filter ..."_s);
@@ -112,17 +117,17 @@ void CheckCommands(FilterWindow& f, bool filterOn) {
 class TestFilterDialog : public QObject {
     Q_OBJECT
 
-  private Q_SLOTS:
+private Q_SLOTS:
     // btn_ausf follows the text boxes, and the field of row 0 alone says
     // whether a blank text will do, for every row.
-    void enabling_data() {
+    void enabling_data()
+    {
         QTest::addColumn<QStringList>("steps");
         QTest::addColumn<bool>("enabled");
         QTest::newRow("number, nothing typed") << QStringList() << false;
         QTest::newRow("number typed, then erased") << QStringList{u"0:type=1"_s, u"0:type=\b"_s} << false;
         QTest::newRow("letters refused in a number") << QStringList{u"0:type=x"_s} << false;
-        QTest::newRow("cycle takes roman letters only")
-            << QStringList{u"0:field=Zyklus"_s, u"0:type=q"_s} << false;
+        QTest::newRow("cycle takes roman letters only") << QStringList{u"0:field=Zyklus"_s, u"0:type=q"_s} << false;
         QTest::newRow("cycle typed roman") << QStringList{u"0:field=Zyklus"_s, u"0:type=iv"_s} << true;
         QTest::newRow("blank remark, blank number")
             << QStringList{u"0:field=Bemerkung"_s, u"0:logic=UND"_s, u"1:field=Nr"_s} << true;
@@ -139,7 +144,8 @@ class TestFilterDialog : public QObject {
                            u"2:field=Datum"_s}
             << true;
     }
-    void enabling() {
+    void enabling()
+    {
         QFETCH(QStringList, steps);
         QFETCH(bool, enabled);
         OpenDialog open;
@@ -151,7 +157,8 @@ class TestFilterDialog : public QObject {
     // A refused cycle value sends the focus back to its box, and the release
     // of the Enter that ran the command must not send it on again; the
     // corrected value then runs.
-    void refusedCycleValue() {
+    void refusedCycleValue()
+    {
         OpenDialog open;
         open.Apply({u"0:field=Zyklus"_s, u"0:type=0"_s});
         auto* box = open.Find<QLineEdit>(u"txt_10"_s);
@@ -170,7 +177,8 @@ class TestFilterDialog : public QObject {
 
     // Enter goes from a row's value to its join word and, on "Keine", to
     // btn_ausf, where it runs the filter.
-    void enterMovesOn() {
+    void enterMovesOn()
+    {
         OpenDialog open;
         open.Apply({u"0:field=Auflage"_s});
         QTest::keyClick(open.Find(u"cmb_aufl0"_s), Qt::Key_Return);
@@ -183,7 +191,8 @@ class TestFilterDialog : public QObject {
 
     // Nothing found, or a condition the database refuses: the message, and
     // the dialog and the main window stay as they were.
-    void emptyResult_data() {
+    void emptyResult_data()
+    {
         QTest::addColumn<QStringList>("steps");
         QTest::addColumn<QString>("sentence");
         QTest::newRow("no such number") << QStringList{u"0:type=999"_s} << u"Nummer = 999 "_s;
@@ -191,7 +200,8 @@ class TestFilterDialog : public QObject {
             << QStringList{u"0:field=Bemerkung"_s, u"0:logic=UND"_s, u"1:field=Nr"_s}
             << u"Bemerkung = <LEER> UND Nummer = <LEER> "_s;
     }
-    void emptyResult() {
+    void emptyResult()
+    {
         QFETCH(QStringList, steps);
         OpenDialog open;
         EntryList& list = open.window.List();
@@ -218,7 +228,8 @@ class TestFilterDialog : public QObject {
 
     // The toolbar button starts and ends a filter; the menu item does the
     // same in the test after this one.
-    void runAndEnd() {
+    void runAndEnd()
+    {
         FilterWindow f;
         EntryList& list = f.List();
         list.Heftliste.SetColWidth(ColTitel, 4321);
@@ -253,7 +264,8 @@ class TestFilterDialog : public QObject {
 
     // Back in the full list: its sort, the entry chosen in the filter list,
     // and the column widths of the filter list.
-    void endKeepsTheEntryAndTheSort_data() {
+    void endKeepsTheEntryAndTheSort_data()
+    {
         QTest::addColumn<int>("filterRow");
         QTest::addColumn<bool>("resort");
         QTest::addColumn<QStringList>("order");
@@ -266,7 +278,8 @@ class TestFilterDialog : public QObject {
             << 3 << true << QStringList{u"5"_s, u"4"_s, u"2"_s, u"3"_s, u"1"_s} << u"5"_s;
         QTest::newRow("filter list ran empty") << 0 << false << sorted << u"1"_s;
     }
-    void endKeepsTheEntryAndTheSort() {
+    void endKeepsTheEntryAndTheSort()
+    {
         QFETCH(int, filterRow);
         QFETCH(bool, resort);
         FilterWindow f;

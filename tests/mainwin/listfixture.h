@@ -10,10 +10,10 @@
 
 namespace heft::test {
 
-inline void LoadEntryList(TempCollection& collection, EntryList& list, EntryGrid& grid) {
+inline void LoadEntryList(TempCollection& collection, EntryList& list, EntryGrid& grid)
+{
     Session& session = collection.session;
-    session.SharedRecordset =
-        session.CollectionDb->Select(QStringLiteral("SELECT * FROM HEFTLIST ORDER BY Nr;"));
+    session.SharedRecordset = session.CollectionDb->Select(QStringLiteral("SELECT * FROM HEFTLIST ORDER BY Nr;"));
     list.ActiveGrid = &grid;
     list.SetupGridColumns();
     list.FillGrid(session);
@@ -22,7 +22,8 @@ inline void LoadEntryList(TempCollection& collection, EntryList& list, EntryGrid
 }
 
 // Column 0 of every data row, top to bottom.
-inline QStringList NrColumn(const EntryGrid& grid) {
+inline QStringList NrColumn(const EntryGrid& grid)
+{
     QStringList numbers;
     for (int row = 1; row < grid.Rows(); ++row)
         numbers << grid.TextMatrix(row, ColNr);

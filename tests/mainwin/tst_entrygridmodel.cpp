@@ -15,9 +15,10 @@ using namespace heft::test;
 class TestEntryGridModel : public QObject {
     Q_OBJECT
 
-  private:
+private:
     // Rows given as "Nr|text of the sorted column".
-    static std::vector<EntryCells> RowsOf(int column, const QStringList& rows) {
+    static std::vector<EntryCells> RowsOf(int column, const QStringList& rows)
+    {
         std::vector<EntryCells> cells;
         for (const QString& row : rows) {
             const QStringList parts = row.split(u'|');
@@ -29,32 +30,31 @@ class TestEntryGridModel : public QObject {
         return cells;
     }
 
-  private Q_SLOTS:
-    void sort_data() {
+private Q_SLOTS:
+    void sort_data()
+    {
         QTest::addColumn<int>("column");
         QTest::addColumn<int>("mode");
         QTest::addColumn<QStringList>("rows");
         QTest::addColumn<QStringList>("expectedNr");
         QTest::newRow("numbers by value, not by text")
-            << int(ColNr) << int(SortNumericAscending) << QStringList{u"100"_s, u"9"_s, u"20"_s}
-            << QStringList{u"9"_s, u"20"_s, u"100"_s};
+            << int(ColNr) << int(SortNumericAscending) << QStringList{u"100"_s, u"9"_s, u"20"_s} << QStringList{u"9"_s, u"20"_s, u"100"_s};
         QTest::newRow("empty printing counts as 0, ties keep their order")
-            << int(ColAuflage) << int(SortNumericAscending)
-            << QStringList{u"1|2"_s, u"2|"_s, u"3|1"_s, u"4|"_s}
+            << int(ColAuflage) << int(SortNumericAscending) << QStringList{u"1|2"_s, u"2|"_s, u"3|1"_s, u"4|"_s}
             << QStringList{u"2"_s, u"4"_s, u"3"_s, u"1"_s};
         QTest::newRow("case-blind, umlaut beside its letter")
             << int(ColAutor) << int(SortGenericAscending)
             << QStringList{u"1|Zander"_s, u"2|ärger"_s, u"3|Bauer"_s, u"4|Apfel"_s, u"5|arndt"_s}
             << QStringList{u"4"_s, u"2"_s, u"5"_s, u"3"_s, u"1"_s};
-        QTest::newRow("digit runs by value") << int(ColTitel) << int(SortGenericAscending)
-                                             << QStringList{u"1|Teil 10"_s, u"2|Teil 9"_s, u"3|Teil 2"_s}
-                                             << QStringList{u"3"_s, u"2"_s, u"1"_s};
+        QTest::newRow("digit runs by value")
+            << int(ColTitel) << int(SortGenericAscending) << QStringList{u"1|Teil 10"_s, u"2|Teil 9"_s, u"3|Teil 2"_s}
+            << QStringList{u"3"_s, u"2"_s, u"1"_s};
         QTest::newRow("equal texts keep their order, also descending")
-            << int(ColAutor) << int(SortGenericDescending)
-            << QStringList{u"1|Maar"_s, u"2|Zahn"_s, u"3|MAAR"_s, u"4|maar"_s}
+            << int(ColAutor) << int(SortGenericDescending) << QStringList{u"1|Maar"_s, u"2|Zahn"_s, u"3|MAAR"_s, u"4|maar"_s}
             << QStringList{u"2"_s, u"1"_s, u"3"_s, u"4"_s};
     }
-    void sort() {
+    void sort()
+    {
         QFETCH(int, column);
         QFETCH(int, mode);
         QFETCH(QStringList, rows);
@@ -72,6 +72,7 @@ class TestEntryGridModel : public QObject {
         QCOMPARE(first.data().toString(), firstText);
         QCOMPARE(model.FindNr(numbers.last().toInt()), model.rowCount() - 1);
     }
+
 };
 
 HEFT_TEST(TestEntryGridModel)

@@ -16,16 +16,17 @@ using namespace heft;
 class TestHelp : public QObject {
     Q_OBJECT
 
-  private Q_SLOTS:
-    void findHelpFolder_data() {
+private Q_SLOTS:
+    void findHelpFolder_data()
+    {
         QTest::addColumn<QStringList>("indexPages"); // index pages laid out below the root
         QTest::addColumn<QString>("found");          // relative to the root; empty: none
         QTest::newRow("the build tree comes first")
-            << QStringList{u"bin/help/index.html"_s, u"share/Quintara/Heftarium/help/index.html"_s}
-            << u"bin/help"_s;
+            << QStringList{u"bin/help/index.html"_s, u"share/Quintara/Heftarium/help/index.html"_s} << u"bin/help"_s;
         QTest::newRow("folder without its index page") << QStringList{u"bin/help/liste.html"_s} << QString();
     }
-    void findHelpFolder() {
+    void findHelpFolder()
+    {
         QFETCH(QStringList, indexPages);
         QFETCH(QString, found);
         QTemporaryDir root;
@@ -36,7 +37,8 @@ class TestHelp : public QObject {
     }
 
     // The help command opens one window and brings it back on a second call.
-    void oneWindow() {
+    void oneWindow()
+    {
         ShowHelp(nullptr);
         ShowHelp(nullptr, u"bearbeiten.html"_s);
         QList<HelpWindow*> open;

@@ -3,8 +3,8 @@
 #include "testmain.h"
 #include "testsupport.h"
 
-#include "mainwin/twips.h"
 #include "mainwin/ui/mainwindow.h"
+#include "mainwin/twips.h"
 
 #include <QAction>
 #include <QTest>
@@ -16,8 +16,9 @@ using namespace heft::test;
 class TestMainCommands : public QObject {
     Q_OBJECT
 
-  private Q_SLOTS:
-    void deleteAsksAndRemoves() {
+private Q_SLOTS:
+    void deleteAsksAndRemoves()
+    {
         TempCollection c;
         c.Add({{1, u"A"_s, u"Eins"_s}, {2, u"B"_s, u"Zwei"_s}, {3, u"C"_s, u"Drei"_s}});
         c.Exec(u"INSERT INTO Details (Nr, Untertitel) VALUES (2, 'weg');"_s);
@@ -30,8 +31,7 @@ class TestMainCommands : public QObject {
         c.prompter.answers = {Answer::Cancel};
         window.Command(u"mnu_delete"_s)->trigger();
         QCOMPARE(c.prompter.asked.value(0).title, u"Sicherheits Rückfrage"_s);
-        QCOMPARE(c.prompter.asked.value(0).text,
-                 u"Willst Du Ausgabe Nr. 2:\n\n\"Zwei\"\n\nwirklich löschen?\r"_s);
+        QCOMPARE(c.prompter.asked.value(0).text, u"Willst Du Ausgabe Nr. 2:\n\n\"Zwei\"\n\nwirklich löschen?\r"_s);
         QCOMPARE(c.Value(u"SELECT COUNT(*) FROM HEFTLIST;"_s).toInt(), 3);
 
         c.prompter.answers = {Answer::Ok};
@@ -41,11 +41,11 @@ class TestMainCommands : public QObject {
         QCOMPARE(window.List().Heftliste.Rows(), 3);
         QCOMPARE(window.List().FindAndShowRow(2), -1);
         window.DisableEntryCommands();
-        QVERIFY(!window.Command(u"mnu_delete"_s)->isEnabled() &&
-                window.Command(u"mnu_Beenden"_s)->isEnabled());
+        QVERIFY(!window.Command(u"mnu_delete"_s)->isEnabled() && window.Command(u"mnu_Beenden"_s)->isEnabled());
     }
 
-    void closingWritesThePlacement() {
+    void closingWritesThePlacement()
+    {
         TempCollection c;
         c.Add({{1, u"A"_s, u"T"_s}});
         {
@@ -61,8 +61,7 @@ class TestMainCommands : public QObject {
         QFile log(c.session.log.Path());
         QVERIFY(log.open(QIODevice::ReadOnly));
         const QString text = QString::fromUtf8(log.readAll());
-        QVERIFY2(text.contains(
-                     u"\r\n[Konfig]\r\nFB=%1\r\nFH=%2\r\n"_s.arg(PixelsToTwips(700)).arg(PixelsToTwips(500))),
+        QVERIFY2(text.contains(u"\r\n[Konfig]\r\nFB=%1\r\nFH=%2\r\n"_s.arg(PixelsToTwips(700)).arg(PixelsToTwips(500))),
                  qPrintable(text));
     }
 };

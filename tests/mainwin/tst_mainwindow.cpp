@@ -16,11 +16,12 @@ using namespace heft::test;
 
 namespace {
 
-QList<TestEntry> Entries(int count) {
+QList<TestEntry> Entries(int count)
+{
     QList<TestEntry> entries;
     for (int nr = 1; nr <= count; ++nr)
-        entries.append({nr, u"Konrad Velten"_s, u"Die Rückkehr des Wanderers, Teil %1"_s.arg(nr), nr % 4,
-                        u"IV"_s, nr % 3 == 0});
+        entries.append({nr, u"Konrad Velten"_s, u"Die Rückkehr des Wanderers, Teil %1"_s.arg(nr), nr % 4, u"IV"_s,
+                        nr % 3 == 0});
     return entries;
 }
 
@@ -29,8 +30,9 @@ QList<TestEntry> Entries(int count) {
 class TestMainWindow : public QObject {
     Q_OBJECT
 
-  private Q_SLOTS:
-    void loadList() {
+private Q_SLOTS:
+    void loadList()
+    {
         TempCollection collection(u"Valdorin"_s, u"Taschenbücher"_s);
         collection.Add(Entries(12));
         collection.Exec(u"UPDATE HEFTLIST SET Zyklus=NULL WHERE Nr=12;"_s);
@@ -54,8 +56,7 @@ class TestMainWindow : public QObject {
         for (int col = ColNr; col <= ColTitel; ++col)
             border += grid.ColPixelWidth(col);
         QTest::mouseDClick(heftliste->horizontalHeader()->viewport(), Qt::LeftButton, {}, QPoint(border, 4));
-        const int widest =
-            QFontMetrics(grid.Font()).horizontalAdvance(u"Die Rückkehr des Wanderers, Teil 12"_s) + 8;
+        const int widest = QFontMetrics(grid.Font()).horizontalAdvance(u"Die Rückkehr des Wanderers, Teil 12"_s) + 8;
         QVERIFY2(qAbs(grid.ColPixelWidth(ColTitel) - widest) <= 1,
                  qPrintable(QString::number(grid.ColPixelWidth(ColTitel))));
 
@@ -68,7 +69,8 @@ class TestMainWindow : public QObject {
     // sorts by its column, a click on a cycle names its number, Enter and a
     // double click edit, the right button takes the row and opens the popup
     // menu.
-    void gridMouseAndKeys() {
+    void gridMouseAndKeys()
+    {
         TempCollection collection;
         collection.Add(Entries(5));
         MainWindow window;
@@ -80,13 +82,10 @@ class TestMainWindow : public QObject {
         QVERIFY(QTest::qWaitForWindowExposed(&window));
         auto* view = Child<QTableView>(window, u"fg_heftliste"_s);
         const EntryGrid& grid = window.List().Heftliste;
-        const auto cell = [view](int row, int col) {
-            return view->visualRect(view->model()->index(row, col)).center();
-        };
+        const auto cell = [view](int row, int col) { return view->visualRect(view->model()->index(row, col)).center(); };
 
         QHeaderView* header = view->horizontalHeader();
-        QTest::mouseClick(header->viewport(), Qt::LeftButton, {},
-                          QPoint(header->sectionViewportPosition(ColAuflage) + 4, 4));
+        QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, QPoint(header->sectionViewportPosition(ColAuflage) + 4, 4));
         // A new column sorts downward first.
         QCOMPARE(NrColumn(grid), (QStringList{u"3"_s, u"2"_s, u"1"_s, u"5"_s, u"4"_s}));
         QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, cell(1, ColZyklus));
@@ -111,13 +110,14 @@ class TestMainWindow : public QObject {
         QApplication::activePopupWidget()->close();
     }
 
-    void removeEntryRows() {
+    void removeEntryRows()
+    {
         TempCollection collection;
         collection.Add(Entries(5));
         EntryList list;
         LoadEntryList(collection, list, list.Heftliste);
-        collection.session.SharedRecordset = collection.session.CollectionDb->Select(
-            u"SELECT * FROM HEFTLIST WHERE Nr IN (2, 4) ORDER BY Nr;"_s);
+        collection.session.SharedRecordset =
+            collection.session.CollectionDb->Select(u"SELECT * FROM HEFTLIST WHERE Nr IN (2, 4) ORDER BY Nr;"_s);
         list.ActiveGrid = &list.Filter;
         list.SetupGridColumns();
         list.FillGrid(collection.session);
@@ -143,6 +143,7 @@ class TestMainWindow : public QObject {
         list.AddGridRow(7);
         QCOMPARE(NrColumn(list.Filter), QStringList{u"7"_s});
     }
+
 };
 
 HEFT_TEST(TestMainWindow)

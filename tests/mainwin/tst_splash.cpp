@@ -21,7 +21,8 @@ namespace {
 
 // A collection whose data folder holds the shipped images in bm/.
 struct SplashFixture {
-    SplashFixture() {
+    SplashFixture()
+    {
         QDir(collection.dir.path()).mkdir(u"bm"_s);
         for (const QString& name : {u"Logo.svg"_s, u"Splash.svg"_s})
             QFile::copy(QStringLiteral(HEFTARIUM_DATA_SOURCES) + u"/bm/"_s + name,
@@ -35,7 +36,8 @@ struct SplashFixture {
 
 // Runs the window modal, as the about command does, while act() closes it;
 // gives up after two seconds so that a window that stays does not hang.
-bool ClosesWhileModal(SplashWindow& window, const std::function<void()>& act) {
+bool ClosesWhileModal(SplashWindow& window, const std::function<void()>& act)
+{
     bool closedByAct = true;
     QTimer::singleShot(0, &window, act);
     QTimer::singleShot(2000, &window, [&] {
@@ -51,14 +53,16 @@ bool ClosesWhileModal(SplashWindow& window, const std::function<void()>& act) {
 class TestSplash : public QObject {
     Q_OBJECT
 
-  private Q_SLOTS:
-    void closes_data() {
+private Q_SLOTS:
+    void closes_data()
+    {
         QTest::addColumn<QString>("target"); // empty: a key press
         QTest::addColumn<int>("key");
         QTest::newRow("letter") << QString() << int(Qt::Key_A);
         QTest::newRow("image") << u"imgLogo"_s << 0;
     }
-    void closes() {
+    void closes()
+    {
         QFETCH(QString, target);
         QFETCH(int, key);
         SplashFixture fixture;
@@ -75,7 +79,8 @@ class TestSplash : public QObject {
     }
 
     // The about command shows the window modal over the main window.
-    void fromTheMenu() {
+    void fromTheMenu()
+    {
         SplashFixture fixture;
         fixture.collection.Add({{1, u"A"_s, u"T"_s}});
         MainWindow window;
@@ -88,7 +93,8 @@ class TestSplash : public QObject {
 
     // A configured splash picture that can't be read gives way to the
     // shipped one; without a logo the program ends with a message.
-    void configuredImages_data() {
+    void configuredImages_data()
+    {
         QTest::addColumn<QString>("splash");
         QTest::addColumn<QString>("logo");
         QTest::addColumn<bool>("loaded");
@@ -96,7 +102,8 @@ class TestSplash : public QObject {
         QTest::newRow("broken splash") << u"Kaputt.png"_s << u"Logo.svg"_s << true;
         QTest::newRow("logo missing") << u"Splash.svg"_s << u"Fehlt.svg"_s << false;
     }
-    void configuredImages() {
+    void configuredImages()
+    {
         QFETCH(QString, splash);
         QFETCH(QString, logo);
         QFETCH(bool, loaded);

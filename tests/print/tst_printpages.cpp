@@ -43,32 +43,38 @@ struct DrawnText {
 };
 
 class RecordingPage : public PrintPage {
-  public:
+public:
     explicit RecordingPage(QPainter& painter) : PrintPage(painter, nullptr, A4PaperMm(false)) {}
 
-    void Line(int x1, int y1, int x2, int y2) override {
+    void Line(int x1, int y1, int x2, int y2) override
+    {
         if (x1 != x2 && y1 != y2)
             diagonals << QPoint((x1 + x2) / 2, (y1 + y2) / 2);
         PrintPage::Line(x1, y1, x2, y2);
     }
-    void Rectangle(int x1, int y1, int x2, int y2, bool filled) override {
+    void Rectangle(int x1, int y1, int x2, int y2, bool filled) override
+    {
         filledRectangles += filled ? 1 : 0;
         PrintPage::Rectangle(x1, y1, x2, y2, filled);
     }
-    void MarkerShape(int x1, int y1, int x2, int y2) override {
+    void MarkerShape(int x1, int y1, int x2, int y2) override
+    {
         nextIsTag = true;
         PrintPage::MarkerShape(x1, y1, x2, y2);
     }
-    void TextAt(int x, int y, const QString& text) override {
+    void TextAt(int x, int y, const QString& text) override
+    {
         texts.append({PageNumber(), {x, y}, text, TextColor(), nextIsTag});
         nextIsTag = false;
         PrintPage::TextAt(x, y, text);
     }
-    void TextInBox(const QRect& box, const QString& text, const QRect& clip) override {
+    void TextInBox(const QRect& box, const QString& text, const QRect& clip) override
+    {
         texts.append({PageNumber(), box.topLeft(), text, TextColor(), false});
         PrintPage::TextInBox(box, text, clip);
     }
-    void Bitmap(const QImage& image, const QRect& box) override {
+    void Bitmap(const QImage& image, const QRect& box) override
+    {
         ++bitmaps;
         PrintPage::Bitmap(image, box);
     }
@@ -80,7 +86,8 @@ class RecordingPage : public PrintPage {
     bool nextIsTag = false;
 };
 
-int CellNumberAt(QPoint point, int from) {
+int CellNumberAt(QPoint point, int from)
+{
     const double cellWidth = (1900 - 10) / 10.0;
     const int gridTop = 100 + 315;
     const int rowHeight = (2770 - 320) / 10;
@@ -93,10 +100,12 @@ struct Drawing {
     RecordingPage page{painter};
     int result = 0;
 
-    Drawing(Session& session, const PrintRequest& request) {
+    Drawing(Session& session, const PrintRequest& request)
+    {
         result = PrintOrPreview(session, page, request, u"vorschau"_s, {});
     }
-    QStringList Texts(bool tags = false) const {
+    QStringList Texts(bool tags = false) const
+    {
         QStringList found;
         for (const DrawnText& text : page.texts)
             if (text.tag == tags)
@@ -105,7 +114,8 @@ struct Drawing {
     }
 };
 
-PrintRequest Request(PrintKind kind, int from, int to, MatrixOptions options = {}, QImage logo = {}) {
+PrintRequest Request(PrintKind kind, int from, int to, MatrixOptions options = {}, QImage logo = {})
+{
     PrintRequest request;
     request.kind = kind;
     request.from = from;
@@ -121,10 +131,9 @@ struct Fixture {
     MainWindow main;
     PrintWindow* print = nullptr;
 
-    Fixture() {
-        collection.Add({{1, u"Ava"_s, u"Eins"_s, 1},
-                        {2, u"Bo"_s, u"Zwei"_s},
-                        {7, u"Cy"_s, u"Sieben"_s, 2},
+    Fixture()
+    {
+        collection.Add({{1, u"Ava"_s, u"Eins"_s, 1}, {2, u"Bo"_s, u"Zwei"_s}, {7, u"Cy"_s, u"Sieben"_s, 2},
                         {230, u"Di"_s, u"Spät"_s, 1}});
         main.LoadList(collection.session);
         InstallPrintWindow(main);
@@ -139,8 +148,9 @@ struct Fixture {
 class TestPrintPages : public QObject {
     Q_OBJECT
 
-  private Q_SLOTS:
-    void initTestCase() {
+private Q_SLOTS:
+    void initTestCase()
+    {
         m_collection.Add({{1, u"Ann Autor"_s, u"Erster Titel"_s, 1, u"I"_s, true, u"Knick"_s},
                           {2, u"Bert"_s, u"Ohne Auflage"_s, 0},
                           {5, u"Cora"_s, u"Fünf"_s, 3},
@@ -150,7 +160,8 @@ class TestPrintPages : public QObject {
         m_collection.Exec(u"INSERT INTO Status (Nr, ENum, StatusWert) VALUES (5, 4, 'Lager');"_s);
     }
 
-    void matrixPage_data() {
+    void matrixPage_data()
+    {
         QTest::addColumn<int>("from");
         QTest::addColumn<MatrixOptions>("options");
         QTest::addColumn<QList<int>>("crossed");
@@ -159,19 +170,17 @@ class TestPrintPages : public QObject {
         QTest::addColumn<QString>("head");
         const MatrixOptions marks;
         QTest::newRow("first page starts at 0")
-            << 1 << marks << QList<int>{0, 1, 5} << QStringList{u"1:1"_s, u"1:2"_s, u"5:3"_s} << 100
-            << u"1-99"_s;
-        QTest::newRow("unknown state always")
-            << 1 << MatrixOptions{false, true, true, true} << QList<int>{0, 1, 5}
-            << QStringList{u"1:1"_s, u"1:2"_s, u"5:3"_s, u"5:?"_s} << 100 << u"1-99"_s;
+            << 1 << marks << QList<int>{0, 1, 5} << QStringList{u"1:1"_s, u"1:2"_s, u"5:3"_s} << 100 << u"1-99"_s;
+        QTest::newRow("unknown state always") << 1 << MatrixOptions{false, true, true, true} << QList<int>{0, 1, 5}
+                                              << QStringList{u"1:1"_s, u"1:2"_s, u"5:3"_s, u"5:?"_s} << 100 << u"1-99"_s;
         QTest::newRow("no marks") << 1 << MatrixOptions{false, false, false, true} << QList<int>{0, 1, 5}
                                   << QStringList() << 100 << u"1-99"_s;
         QTest::newRow("last hundred ends at the highest")
-            << 100 << marks << QList<int>{120, 150} << QStringList{u"120:2"_s, u"150:1"_s} << 51
-            << u"100-199"_s;
+            << 100 << marks << QList<int>{120, 150} << QStringList{u"120:2"_s, u"150:1"_s} << 51 << u"100-199"_s;
     }
 
-    void matrixPage() {
+    void matrixPage()
+    {
         QFETCH(int, from);
         QFETCH(MatrixOptions, options);
         const PrintRequest request = Request(PrintKind::Matrix, from, from == 1 ? 99 : from + 99, options);
@@ -195,7 +204,8 @@ class TestPrintPages : public QObject {
 
     // Toner saving drops the picture, the filled bands and the yellow, and
     // keeps every text and mark.
-    void tonerSaving() {
+    void tonerSaving()
+    {
         PrintRequest request = Request(PrintKind::Matrix, 1, 199, {}, QImage(8, 8, QImage::Format_RGB32));
         const Drawing colour(m_collection.session, request);
         request.matrix.tonerSaving = true;
@@ -210,7 +220,8 @@ class TestPrintPages : public QObject {
             QVERIFY(text.color != QColor(Qt::yellow));
     }
 
-    void listPages_data() {
+    void listPages_data()
+    {
         QTest::addColumn<PrintRequest>("request");
         QTest::addColumn<int>("pages");
         QTest::addColumn<QStringList>("lines"); // the first two body lines
@@ -223,13 +234,13 @@ class TestPrintPages : public QObject {
         PrintRequest filter = Request(PrintKind::FilterList, 0, 0);
         filter.filterRows = {{u"7"_s, u"Zoe"_s, u"Gefiltert"_s, u""_s, u"? ? ?"_s, u"\u00fc"_s, u""_s}};
         filter.filterText = u"Titel ähnlich wie '*Gef*' "_s;
-        QTest::newRow("filter list")
-            << filter << 1
-            << QStringList{u"   7 Zoe                       Gefiltert                                           -     ? ? ? Ja   "_s}
-            << u"Valdorin Heftromane gefiltert nach: Titel ähnlich wie '*Gef*' "_s;
+        QTest::newRow("filter list") << filter << 1
+                                     << QStringList{u"   7 Zoe                       Gefiltert                                           -     ? ? ? Ja   "_s}
+                                     << u"Valdorin Heftromane gefiltert nach: Titel ähnlich wie '*Gef*' "_s;
     }
 
-    void listPages() {
+    void listPages()
+    {
         QFETCH(PrintRequest, request);
         const Drawing drawing(m_collection.session, request);
         QTEST(drawing.result, "pages");
@@ -243,7 +254,8 @@ class TestPrintPages : public QObject {
 
     // The page changes after as many printed lines as a page holds, not
     // after as many numbers; every page has its head and footer.
-    void listPageBreaks() {
+    void listPageBreaks()
+    {
         TempCollection big;
         QList<TestEntry> entries;
         for (int nr = 1; nr < 400; nr += 2)
@@ -260,7 +272,8 @@ class TestPrintPages : public QObject {
         QVERIFY(drawing.Texts().contains(u"Seite %1 von %1"_s.arg(drawing.result)));
     }
 
-    void controlsFollowTheChoice() {
+    void controlsFollowTheChoice()
+    {
         Fixture f;
         QVERIFY(f.print != nullptr && f.print->isVisible());
         auto* liste = f.Control<QComboBox>(u"cmb_liste"_s);
@@ -287,7 +300,8 @@ class TestPrintPages : public QObject {
         QCOMPARE(f.print->focusWidget(), txtTo);
     }
 
-    void pdfIntoExportFolder() {
+    void pdfIntoExportFolder()
+    {
         Fixture f;
         f.Control<QCheckBox>(u"chk_landscape"_s)->setChecked(true);
         f.Control<QPushButton>(u"btn_pdf"_s)->click();
@@ -296,7 +310,8 @@ class TestPrintPages : public QObject {
         QCOMPARE(f.main.StatusPanelText(5), u"PDF gespeichert: "_s + pdf);
     }
 
-    void previewUnlessTheRangeIsEmpty() {
+    void previewUnlessTheRangeIsEmpty()
+    {
         Fixture f;
         f.Control<QComboBox>(u"cmb_liste"_s)->setCurrentIndex(1);
         f.Control<QLineEdit>(u"txt_from"_s)->setText(u"3"_s);
@@ -314,8 +329,7 @@ class TestPrintPages : public QObject {
         QCOMPARE(preview->windowTitle(), u"Valdorin Heftromane -Gesamtliste-"_s);
         preview->close();
     }
-
-  private:
+private:
     TempCollection m_collection;
 };
 

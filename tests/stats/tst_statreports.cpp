@@ -31,7 +31,8 @@ const QDate Today(2024, 3, 11);
 // Nine entries up to number 201: gaps of one and of many, jubilee 1 and 100
 // present, 200 missing; an entry without a cycle; prices, one with a comma;
 // four lent entries, one of them to nobody named.
-void FillSample(TempCollection& c) {
+void FillSample(TempCollection& c)
+{
     c.Add({{1, u"Kurt Brandis"_s, u"A"_s, 1, u"- - -"_s, true},
            {2, u"Hanno Velden"_s, u"B"_s, 0, u"- - -"_s},
            {3, u"Kurt Brandis"_s, u"C"_s, 2, u"I"_s, true},
@@ -42,16 +43,17 @@ void FillSample(TempCollection& c) {
            {201, u"Hanno Velden"_s, u"I"_s, 1, u"III"_s}});
     c.Exec(u"INSERT INTO HEFTLIST VALUES (9, 'Ulla Sternberg', 'G', 0, NULL, 0, NULL);"_s);
     const QList<std::tuple<int, int, QString>> status = {
-        {1, 5, u"00002.5"_s},       {3, 5, u"0000004"_s},      {6, 5, u"3,75"_s},        {7, 5, u""_s},
-        {1, 6, u"0000010"_s},       {5, 6, u"00007.5"_s},      {3, 17, u"Petra Lang"_s}, {5, 17, u"Jonas"_s},
-        {7, 17, u"Petra Lang"_s},   {3, 18, u"2024-01-10"_s},  {5, 18, u"2024-03-01"_s}, {7, 18, u""_s},
+        {1, 5, u"00002.5"_s},    {3, 5, u"0000004"_s},    {6, 5, u"3,75"_s},       {7, 5, u""_s},
+        {1, 6, u"0000010"_s},    {5, 6, u"00007.5"_s},    {3, 17, u"Petra Lang"_s}, {5, 17, u"Jonas"_s},
+        {7, 17, u"Petra Lang"_s}, {3, 18, u"2024-01-10"_s}, {5, 18, u"2024-03-01"_s}, {7, 18, u""_s},
         {100, 18, u"2023-12-24"_s}, {201, 18, u"2024-02-15"_s}};
     for (const auto& [nr, enumber, value] : status)
         c.Exec(u"INSERT INTO Status VALUES (%1, %2, '%3');"_s.arg(nr).arg(enumber).arg(value));
 }
 
-StatsResult Build(TempCollection& c, Statistic statistic, const QString& author = {},
-                  const QString& cycle = {}, int priceValue = -1) {
+StatsResult Build(TempCollection& c, Statistic statistic, const QString& author = {}, const QString& cycle = {},
+                  int priceValue = -1)
+{
     const StatsLists lists = LoadStatsLists(c.session);
     StatsChoice choice;
     choice.author = author;
@@ -61,14 +63,16 @@ StatsResult Build(TempCollection& c, Statistic statistic, const QString& author 
     return BuildStatistic(c.session, lists, statistic, choice);
 }
 
-QStringList RowTexts(const ChartData& chart) {
+QStringList RowTexts(const ChartData& chart)
+{
     QStringList texts;
     for (const ChartRow& row : chart.rows)
         texts << u"%1 %2=%3"_s.arg(row.series, row.label).arg(row.value);
     return texts;
 }
 
-void StepThrough(StatWindow& window) {
+void StepThrough(StatWindow& window)
+{
     auto* stat = Child<QComboBox>(window, u"cmb_stat"_s);
     auto* next = Child<QPushButton>(window, u"btn_next"_s);
     auto* prev = Child<QPushButton>(window, u"btn_prev"_s);
@@ -111,8 +115,9 @@ void StepThrough(StatWindow& window) {
 class TestStatReports : public QObject {
     Q_OBJECT
 
-  private Q_SLOTS:
-    void reports_data() {
+private Q_SLOTS:
+    void reports_data()
+    {
         QTest::addColumn<int>("statistic");
         QTest::addColumn<QString>("choice");
         QTest::addColumn<QStringList>("lines");
@@ -129,14 +134,13 @@ class TestStatReports : public QObject {
                                                u"Anzahl der Auflagen           :    3 [ von 5]"_s,
                                                u"Anzahl der Zyklen             :    4"_s,
                                                u"Anzahl der Autoren            :    3"_s}
-                                << QStringList{u"Anzahl Gesamt=9"_s,     u"Anzahl Fehlend=2"_s,
-                                               u"Anzahl Vorhanden=7"_s,  u"Anzahl 1. Auflage=5"_s,
-                                               u"Anzahl 2. Auflage=1"_s, u"Anzahl 3. Auflage=1"_s};
+                                << QStringList{u"Anzahl Gesamt=9"_s,      u"Anzahl Fehlend=2"_s,
+                                               u"Anzahl Vorhanden=7"_s,   u"Anzahl 1. Auflage=5"_s,
+                                               u"Anzahl 2. Auflage=1"_s,  u"Anzahl 3. Auflage=1"_s};
         // The entry without a cycle is asked for with "=NULL" and so never
         // counted; the last row takes what is left of 100 %.
         QTest::newRow("Zyklen") << int(Statistic::Zyklen) << QString()
-                                << QStringList{first,
-                                               QString(),
+                                << QStringList{first, QString(),
                                                u"- davon Zyklus ? ? ?          :    - [ -  - ]"_s,
                                                u"- davon Zyklus - - -          :    2 [ 22.2%]"_s,
                                                u"- davon Zyklus I              :    2 [ 22.2%]"_s,
@@ -145,32 +149,30 @@ class TestStatReports : public QObject {
                                 << QStringList{u"Anzahl ? ? ?=0"_s, u"Anzahl - - -=2"_s, u"Anzahl I=2"_s,
                                                u"Anzahl II=2"_s, u"Anzahl III=2"_s};
         QTest::newRow("Autoren") << int(Statistic::Autoren) << QString()
-                                 << QStringList{u"Anzahl der Heftromane in Liste         :    9 [  4.5%]"_s,
-                                                QString(),
+                                 << QStringList{u"Anzahl der Heftromane in Liste         :    9 [  4.5%]"_s, QString(),
                                                 u"- davon Hanno Velden               (HV):    3 [ 33.3%]"_s,
                                                 u"- davon Kurt Brandis               (KB):    4 [ 44.4%]"_s,
                                                 u"- davon Ulla Sternberg             (US):    2 [ 22.2%]"_s}
                                  << QStringList{u"Anzahl HV=3"_s, u"Anzahl KB=4"_s, u"Anzahl US=2"_s};
         // The share of each row is the author's part of the cycle.
-        QTest::newRow("Autor/Zyklen")
-            << int(Statistic::AutorZyklen) << u"Kurt Brandis"_s
-            << QStringList{first,
-                           u"Heftromane von Kurt Brandis   :    4"_s,
-                           u"Erster Roman mit Nummer       :    1"_s,
-                           u"Letzter Roman mit Nummer      :  100"_s,
-                           u"Romandichte im Nummernbereich :    4.0%"_s,
-                           u"- davon im Zyklus - - -       :    1 [ 50.0%]"_s,
-                           u"- davon im Zyklus I           :    1 [ 50.0%]"_s,
-                           u"- davon im Zyklus II          :    1 [ 50.0%]"_s,
-                           u"- davon im Zyklus III         :    1 [ 50.0%]"_s}
-            << QStringList{u"Anzahl - - -=1"_s, u"Anzahl I=1"_s, u"Anzahl II=1"_s, u"Anzahl III=1"_s};
-        QTest::newRow("Zyklus/Autoren")
-            << int(Statistic::ZyklusAutoren) << u"II"_s
-            << QStringList{u"Anzahl der Heftromane in Liste         :    9 [  4.5%]"_s,
-                           u"Heftromane im Zyklus II                :    2"_s,
-                           u"- davon Hanno Velden               (HV):    1 [ 50.0%]"_s,
-                           u"- davon Kurt Brandis               (KB):    1 [ 50.0%]"_s}
-            << QStringList{u"Anzahl HV=1"_s, u"Anzahl KB=1"_s};
+        QTest::newRow("Autor/Zyklen") << int(Statistic::AutorZyklen) << u"Kurt Brandis"_s
+                                      << QStringList{first,
+                                                     u"Heftromane von Kurt Brandis   :    4"_s,
+                                                     u"Erster Roman mit Nummer       :    1"_s,
+                                                     u"Letzter Roman mit Nummer      :  100"_s,
+                                                     u"Romandichte im Nummernbereich :    4.0%"_s,
+                                                     u"- davon im Zyklus - - -       :    1 [ 50.0%]"_s,
+                                                     u"- davon im Zyklus I           :    1 [ 50.0%]"_s,
+                                                     u"- davon im Zyklus II          :    1 [ 50.0%]"_s,
+                                                     u"- davon im Zyklus III         :    1 [ 50.0%]"_s}
+                                      << QStringList{u"Anzahl - - -=1"_s, u"Anzahl I=1"_s, u"Anzahl II=1"_s,
+                                                     u"Anzahl III=1"_s};
+        QTest::newRow("Zyklus/Autoren") << int(Statistic::ZyklusAutoren) << u"II"_s
+                                        << QStringList{u"Anzahl der Heftromane in Liste         :    9 [  4.5%]"_s,
+                                                       u"Heftromane im Zyklus II                :    2"_s,
+                                                       u"- davon Hanno Velden               (HV):    1 [ 50.0%]"_s,
+                                                       u"- davon Kurt Brandis               (KB):    1 [ 50.0%]"_s}
+                                        << QStringList{u"Anzahl HV=1"_s, u"Anzahl KB=1"_s};
         QTest::newRow("Report") << int(Statistic::Report) << QString()
                                 << QStringList{first,
                                                u"Fehlende Heftromane in Liste  :  192 [ 95.5%]"_s,
@@ -180,8 +182,7 @@ class TestStatReports : public QObject {
                                                u"Jubelbände fehlend            :    1 [ 33.3%]"_s,
                                                u"200"_s}
                                 << QStringList{u"Anzahl Fehlende Heftromane=192"_s,
-                                               u"Anzahl Jubelbände vorhanden=2"_s,
-                                               u"Anzahl Jubelbände fehlend=1"_s};
+                                               u"Anzahl Jubelbände vorhanden=2"_s, u"Anzahl Jubelbände fehlend=1"_s};
         QTest::newRow("Preis/Wert") << int(Statistic::PreisWert) << QString()
                                     << QStringList{u"Anzahl der Heftromane in Liste     :    9 [  4.5%]"_s,
                                                    u"Anzahl der Heftromane mit Preisinfo:       3"_s,
@@ -198,20 +199,20 @@ class TestStatReports : public QObject {
                                     << QStringList{u"Wert 1=10"_s, u"Wert 5=7.5"_s};
         // Entry 100 and 201 are lent to nobody named; entry 7 names a
         // borrower but has no date, so it is not lent, yet counts for her.
-        QTest::newRow("Verleihwesen")
-            << int(Statistic::Verleihwesen) << QString()
-            << QStringList{u"Anzahl der Heftromane in Liste   :    9 [  4.5%]"_s,
-                           u"Anzahl der verliehenen Heftromane:     4"_s,
-                           u"Am längsten verliehene Ausgabe   :   100 [24-12-23/78T]"_s,
-                           u"Als letztes verliehene Ausgabe   :     5 [01-03-24/10T]"_s,
-                           QString(),
-                           u"- an Jonas                   (Jo):     1"_s,
-                           u"- an Petra Lang              (PL):     2"_s,
-                           u"- an *** Unbekannt ***       (**):     1"_s}
-            << QStringList{u"Anzahl Jo=1"_s, u"Anzahl PL=2"_s, u"Anzahl **=1"_s};
+        QTest::newRow("Verleihwesen") << int(Statistic::Verleihwesen) << QString()
+                                      << QStringList{u"Anzahl der Heftromane in Liste   :    9 [  4.5%]"_s,
+                                                     u"Anzahl der verliehenen Heftromane:     4"_s,
+                                                     u"Am längsten verliehene Ausgabe   :   100 [24-12-23/78T]"_s,
+                                                     u"Als letztes verliehene Ausgabe   :     5 [01-03-24/10T]"_s,
+                                                     QString(),
+                                                     u"- an Jonas                   (Jo):     1"_s,
+                                                     u"- an Petra Lang              (PL):     2"_s,
+                                                     u"- an *** Unbekannt ***       (**):     1"_s}
+                                      << QStringList{u"Anzahl Jo=1"_s, u"Anzahl PL=2"_s, u"Anzahl **=1"_s};
     }
 
-    void reports() {
+    void reports()
+    {
         QFETCH(int, statistic);
         QFETCH(QString, choice);
         TempCollection c;
@@ -222,7 +223,8 @@ class TestStatReports : public QObject {
         QTEST(RowTexts(result.chart), "rows");
     }
 
-    void priceValueCharts() {
+    void priceValueCharts()
+    {
         TempCollection c;
         FillSample(c);
         const StatsResult result = Build(c, Statistic::PreisWert, {}, {}, PricesAlong);
@@ -239,7 +241,8 @@ class TestStatReports : public QObject {
 
     // Shapes that change a report: no prices, one author, no gaps, a list
     // below 100, gaps that fill more than a line, many cycles.
-    void edges_data() {
+    void edges_data()
+    {
         QTest::addColumn<QString>("setup");
         QTest::addColumn<int>("statistic");
         QTest::addColumn<int>("line");
@@ -259,7 +262,8 @@ class TestStatReports : public QObject {
                                    << u"- davon Zyklus LXV            :    1 [  1.5%]"_s << 65;
     }
 
-    void edges() {
+    void edges()
+    {
         QFETCH(QString, setup);
         QFETCH(int, statistic);
         QFETCH(int, line);
@@ -280,11 +284,11 @@ class TestStatReports : public QObject {
             QCOMPARE(result.chart.valueLabels, chartRows <= ChartData::MaxLabelledRows);
     }
 
-    void stepsThroughAllEight() {
+    void stepsThroughAllEight()
+    {
         TempCollection c; // with the shipped sample in place of its file
         c.Close();
-        QVERIFY(QFile::remove(c.Path()) &&
-                QFile::copy(HEFTARIUM_RUNTIME_DIR "/DBs/Heftarium.mdb"_L1, c.Path()));
+        QVERIFY(QFile::remove(c.Path()) && QFile::copy(HEFTARIUM_RUNTIME_DIR "/DBs/Heftarium.mdb"_L1, c.Path()));
         c.Reopen();
         ReadParameters(c.session);
         MainWindow main;

@@ -9,7 +9,7 @@
 namespace heft::test {
 
 class WikiFixtureServer : public QObject {
-  public:
+public:
     struct Answer {
         int status = 200;
         QByteArray body;
@@ -32,7 +32,7 @@ class WikiFixtureServer : public QObject {
     static QByteArray Fixture(const QString& name);
     static QByteArray Padded(QByteArray page);
 
-  private:
+private:
     QTcpServer m_server;
     QHash<QString, Answer> m_answers;
 };
