@@ -146,6 +146,7 @@ private Q_SLOTS:
         QTest::newRow("person edited in place, trimmed and cut")
             << u"liv_personen"_s << u"  Bartholomew von Eichenhain-Lornberg"_s << u"Details.Person3"_s
             << u"Bartholomew von Eichenhain-Lornb"_s;
+        QTest::newRow("draughtsman") << u"cmb_rize"_s << u"Uwe Rall"_s << u"Gestaltung.RiZeZeichner"_s << u"Uwe Rall"_s;
         QTest::newRow("drawn object") << u"txt_objekt"_s << u"Kreuzer 'Stella'"_s << u"Gestaltung.RiZeObjekt"_s
                                       << u"Kreuzer 'Stella'"_s;
     }
@@ -170,7 +171,7 @@ private Q_SLOTS:
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
             // The item view takes the name on its next round.
             QTRY_COMPARE(Persons(*w)->topLevelItem(2)->text(0), stored);
-        } else if (control == u"txt_objekt"_s) {
+        } else if (control == u"txt_objekt"_s || control == u"cmb_rize"_s) {
             Child<QTabWidget>(*w, u"tab_detail"_s)->setCurrentIndex(1);
             Click(*w, u"chk_rize"_s);
         }
@@ -243,6 +244,14 @@ private Q_SLOTS:
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
             QVERIFY(object->text().endsWith(u'X'));
             QCOMPARE(f.Value(u"SELECT RiZeObjekt FROM Gestaltung WHERE Nr=2;"_s).toString(), object->text());
+            // Without the drawing its object goes; an unknown date shows as text.
+            Child<QCheckBox>(*w, u"chk_rize"_s)->click();
+            QVERIFY(object->text().isEmpty() && !object->isEnabled());
+            for (int click = 0; click < 2; ++click)
+                Child<QCheckBox>(*w, u"chk_valid"_s)->click();
+            QVERIFY(Child<QLineEdit>(*w, u"txt_erst"_s)->isVisibleTo(w.get()));
+            Child<QPushButton>(*w, u"btn_ok"_s)->click();
+            QCOMPARE(f.Value(u"SELECT RZ || RiZeObjekt FROM Gestaltung WHERE Nr=2;"_s).toString(), u"0"_s);
         }
         // Closed from the title bar as by its own button.
         w->close();
@@ -291,17 +300,25 @@ private Q_SLOTS:
             QCOMPARE(f.Count(table, 3), 0);
     }
 
-    // Esc in the box over the person list closes only the box.
-    void escapeInPersonBox()
+    // Esc closes the box over the person list, never the window with it;
+    // a click beside the box takes its name.
+    void personBox()
     {
         Fixture f;
         const auto w = f.Open(3, true);
-        DoubleClickPerson(*w, 1);
+        QTreeWidget* persons = Persons(*w);
         auto* box = Child<QComboBox>(*w, u"cmb_floatP"_s);
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+        DoubleClickPerson(*w, 1);
+        QTest::keyClick(w.get(), Qt::Key_Escape);
+        QVERIFY(box->isVisible());
+        QTest::keyClick(box, Qt::Key_Escape);
         QVERIFY(!box->isVisible() && w->isVisible());
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
-        QVERIFY(!w->isVisible());
+        DoubleClickPerson(*w, 2);
+        QTest::keyClicks(box, u"Ole Brandt"_s);
+        QTest::mouseClick(persons->viewport(), Qt::LeftButton, {},
+                          persons->visualItemRect(persons->topLevelItem(5)).center());
+        QVERIFY(!box->isVisible());
+        QCOMPARE(persons->topLevelItem(2)->text(0), u"Ole Brandt"_s);
     }
 
     // Straight from the menu, or from the editor's "Detailinfo ..." button.

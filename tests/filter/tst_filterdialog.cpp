@@ -175,16 +175,22 @@ private Q_SLOTS:
         QCOMPARE(open.window.List().Filter.Rows() - 1, 2);
     }
 
-    // Enter goes from a row's value to its join word and, on "Keine", to
-    // btn_ausf, where it runs the filter.
+    // Enter goes from a row's value to its join word and, on "Keine" or in
+    // the last row or an archive box, to btn_ausf, where it runs the filter.
     void enterMovesOn()
     {
         OpenDialog open;
-        open.Apply({u"0:field=Auflage"_s});
-        QTest::keyClick(open.Find(u"cmb_aufl0"_s), Qt::Key_Return);
-        QCOMPARE(open.Focus(), u"cmb_logic0"_s);
-        QTest::keyClick(open.Find(u"cmb_logic0"_s), Qt::Key_Return);
-        QCOMPARE(open.Focus(), u"btn_ausf"_s);
+        open.Apply({u"0:field=Auflage"_s, u"0:logic=UND"_s, u"1:field=Auflage"_s});
+        for (const QString& step : {u"txt_archiv1>btn_ausf"_s, u"cmb_aufl0>cmb_logic0"_s, u"cmb_logic1>btn_ausf"_s,
+                                    u"cmb_aufl1>cmb_logic1"_s, u"1:logic=UND"_s, u"2:field=Auflage"_s,
+                                    u"cmb_aufl2>btn_ausf"_s}) {
+            if (step.contains(u'=')) {
+                open.Apply({step});
+                continue;
+            }
+            QTest::keyClick(open.Find(step.section(u'>', 0, 0)), Qt::Key_Return);
+            QCOMPARE(open.Focus(), step.section(u'>', 1));
+        }
         QTest::keyClick(open.Ausf(), Qt::Key_Return);
         QCOMPARE(open.dialog->result(), int(QDialog::Accepted));
     }

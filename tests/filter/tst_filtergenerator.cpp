@@ -257,23 +257,27 @@ private Q_SLOTS:
                  where + u"AND h.Nr"_s + (compare == Kleiner ? u"<"_s : u">"_s) + u"7 "_s);
     }
 
-    // With a single cycle, a value on it is beyond it on both sides.
+    // With a single cycle, a value on it is beyond it on both sides; with
+    // none, nothing is.
     void singleCycle_data()
     {
+        QTest::addColumn<QString>("cycle"); // of the only entry
         QTest::addColumn<QString>("value");
         QTest::addColumn<int>("compare");
         QTest::addColumn<QString>("where");
-        QTest::newRow("below it") << u"II"_s << int(Kleiner) << u"(h.Zyklus='-0') "_s;
-        QTest::newRow("below a higher value") << u"III"_s << int(Kleiner) << u"(h.Zyklus='II') "_s;
-        QTest::newRow("above it") << u"II"_s << int(Grosser) << u"(h.Zyklus='-0') "_s;
-        QTest::newRow("above a lower value") << u"I"_s << int(Grosser) << u"(h.Zyklus='II') "_s;
+        QTest::newRow("below it") << u"II"_s << u"II"_s << int(Kleiner) << u"(h.Zyklus='-0') "_s;
+        QTest::newRow("below a higher value") << u"II"_s << u"III"_s << int(Kleiner) << u"(h.Zyklus='II') "_s;
+        QTest::newRow("above it") << u"II"_s << u"II"_s << int(Grosser) << u"(h.Zyklus='-0') "_s;
+        QTest::newRow("above a lower value") << u"II"_s << u"I"_s << int(Grosser) << u"(h.Zyklus='II') "_s;
+        QTest::newRow("no cycle at all") << u"- - -"_s << u"I"_s << int(Kleiner) << u"(h.Zyklus='-0') "_s;
     }
     void singleCycle()
     {
+        QFETCH(QString, cycle);
         QFETCH(QString, value);
         QFETCH(int, compare);
         heft::test::TempCollection c;
-        c.Add({{1, u"Ava Lind"_s, u"Eins"_s, 0, u"II"_s}});
+        c.Add({{1, u"Ava Lind"_s, u"Eins"_s, 0, cycle}});
         QTEST(FilterGenerator(c.session).Generate({Text(4, compare, value)}).where, "where");
     }
 
