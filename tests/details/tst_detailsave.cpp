@@ -59,9 +59,9 @@ private Q_SLOTS:
                                 "VALUES (7, 2, 3, 'Vorgeschichte ''Aufbruch''', 'Valdorin Taschenbücher');"_s);
     }
 
-    // The first save of an entry inserts its rows; a later one updates
-    // them, as the detail window's tests show.
-    void firstSaveInserts()
+    // The first save of an entry inserts its rows; the next one, with a link
+    // less and another price, replaces them.
+    void saveRewritesTables()
     {
         TempCollection collection;
         // The session's ExecuteSql is quiet under the detail window's caption.
@@ -70,6 +70,10 @@ private Q_SLOTS:
         collection.Exec(u"INSERT INTO Status (Nr, ENum, StatusWert) VALUES (8, 3, 'fremd');"_s);
 
         SaveDetails(collection.session, SampleValues());
+        DetailValues again = SampleValues();
+        again.Status[4] = u"0000004"_s;
+        again.Links.removeLast();
+        SaveDetails(collection.session, again);
 
         const auto text = [&](const QString& sql) { return collection.Value(sql).toString(); };
         QCOMPARE(text(u"SELECT COUNT(*) || '|' || Ersterscheinung || '|' || Untertitel || '|' || Person2 || '|' || "
@@ -81,14 +85,14 @@ private Q_SLOTS:
         QCOMPARE(text(u"SELECT COUNT(*) FROM Status WHERE Nr=7;"_s).toInt(), StatusCount);
         QCOMPARE(text(u"SELECT GROUP_CONCAT(StatusWert, '|') FROM (SELECT StatusWert FROM Status WHERE Nr=7 AND "
                       "ENum IN (5, 19) ORDER BY ENum);"_s),
-                 u"00003.5|Gut, aber 'zäh'"_s);
+                 u"0000004|Gut, aber 'zäh'"_s);
         const QString stamp = text(u"SELECT GROUP_CONCAT(StatusWert) FROM Status WHERE Nr=7 AND ENum=1;"_s);
         QVERIFY2(QRegularExpression(u"^\\d{4}-\\d\\d-\\d\\d um \\d\\d:\\d\\d:\\d\\d$"_s).match(stamp).hasMatch() &&
                      stamp != u"2009-03-01 um 10:00:00"_s,
                  qPrintable(stamp));
         QCOMPARE(text(u"SELECT GROUP_CONCAT(Link, '|') FROM (SELECT ENum || ':' || LinkNum || ':' || LinkText AS Link "
                       "FROM Links WHERE Nr=7 ORDER BY ENum);"_s),
-                 u"1:8:Teil 2 von 2|2:3:Vorgeschichte 'Aufbruch'"_s);
+                 u"1:8:Teil 2 von 2"_s);
         QCOMPARE(text(u"SELECT GROUP_CONCAT(StatusWert) FROM Status WHERE Nr=8;"_s), u"fremd"_s);
         QVERIFY(collection.prompter.asked.isEmpty());
     }
