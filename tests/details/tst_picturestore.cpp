@@ -9,7 +9,6 @@
 #include "details/archivelink.h"
 #include "details/picturestore.h"
 
-#include <QDir>
 #include <QTest>
 
 using namespace Qt::StringLiterals;

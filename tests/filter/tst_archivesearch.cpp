@@ -12,7 +12,6 @@
 #include "mainwin/ui/mainwindow.h"
 
 #include <QComboBox>
-#include <QDir>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTest>

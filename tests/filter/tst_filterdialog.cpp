@@ -237,6 +237,13 @@ private Q_SLOTS:
     void runAndEnd()
     {
         FilterWindow f;
+        {
+            // Closed without a run, the window leaves the commands as they were.
+            ModalScript cancelled(u"frm_filter"_s);
+            cancelled.Then([](QDialog& dialog) { dialog.reject(); });
+            f.Command(u"filter"_s)->trigger();
+            CheckCommands(f, false);
+        }
         EntryList& list = f.List();
         list.Heftliste.SetColWidth(ColTitel, 4321);
         f.RunFilter();

@@ -4,8 +4,6 @@
 #include "mainwin/entryrows.h"
 
 #include <QAbstractItemModelTester>
-#include <QFont>
-#include <QPixmap>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
