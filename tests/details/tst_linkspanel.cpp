@@ -96,6 +96,7 @@ private Q_SLOTS:
             QCOMPARE(number->text(), u"13"_s);
             number->clear();
             QTest::keyClicks(number, u"0x"_s);
+            QCOMPARE(number->text(), u"0"_s);
             dialog.findChild<QPushButton*>(u"btn_ok"_s)->click();
             QVERIFY(dialog.isVisible() && number->hasSelectedText());
             QTest::keyClicks(number, u"7"_s);
