@@ -41,7 +41,8 @@ struct OpenDialog {
     }
     template <typename T = QWidget> T* Find(const QString& name) { return dialog->findChild<T*>(name); }
     QPushButton* Ausf() { return Find<QPushButton>(u"btn_ausf"_s); }
-    QString Focus() { return dialog->focusWidget()->objectName(); }
+    // Empty while no control has the focus, so that a check fails instead of crashing.
+    QString Focus() { return dialog->focusWidget() ? dialog->focusWidget()->objectName() : QString(); }
 
     // User steps: "0:field=Autor" picks a field in row 0, "1:ver=ÄHNLICH",
     // "0:logic=UND" pick from the other lists, "0:type=12" types.
